@@ -1,0 +1,38 @@
+#include "platform/value.h"
+
+#include "platform/errors.h"
+
+namespace nautrel {
+
+Value Value::null() {
+  Value value;
+  value.held_ = NullValue{};
+  return value;
+}
+
+bool Value::isYes() const {
+  const auto* flag = std::get_if<bool>(&held_);
+  return flag != nullptr && *flag;
+}
+
+std::string Value::text(const Locale& locale) const {
+  if (isNull()) raise(InvalidUseOfNull);
+  return joined(locale);
+}
+
+std::string Value::joined(const Locale& locale) const {
+  if (const auto* text = std::get_if<std::string>(&held_)) return *text;
+  if (const auto* number = std::get_if<double>(&held_)) return generalText(*number, locale);
+  if (const auto* flag = std::get_if<bool>(&held_)) return *flag ? "True" : "False";
+  return {};
+}
+
+double Value::number(const Locale& locale) const {
+  if (isNull()) raise(InvalidUseOfNull);
+  if (const auto* text = std::get_if<std::string>(&held_)) return readNumber(*text, locale);
+  if (const auto* number = std::get_if<double>(&held_)) return *number;
+  if (const auto* flag = std::get_if<bool>(&held_)) return *flag ? -1 : 0;
+  return 0;
+}
+
+}  // namespace nautrel
