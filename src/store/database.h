@@ -1,0 +1,119 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/value.h"
+
+namespace nautrel {
+
+class Database;
+class Recordset;
+
+/// The engine behind all databases of the program. One lives as long as the program; it knows what
+/// was written since the last settle().
+class Workspace {
+ public:
+  Workspace();
+  ~Workspace();
+  Workspace(const Workspace&) = delete;
+  Workspace& operator=(const Workspace&) = delete;
+
+  /// Opens shared, for reading and writing. Raises 3024 (no file), 3044 (no folder), 3051 (cannot
+  /// be opened), 3343 (no logbook database).
+  Database OpenDatabase(const std::string& path);
+
+  /// Brings everything written so far into the one file and on the disk. Called when the outermost
+  /// handler ends and before the user is told anything. Costs nothing if nothing was written.
+  void settle();
+
+ private:
+  friend class Database;
+  struct State;
+  std::shared_ptr<State> state_;
+};
+
+/// The columns that a pass needs, by name; none given means all of them.
+using Columns = std::vector<std::string>;
+
+/// One open connection; closed by Close() or by the end of its life. Recordsets keep it alive.
+class Database {
+ public:
+  /// A table-type recordset: on the first row, its count exact at once, walked in stored order.
+  /// Raises 3078 for a table that is not there, 3265 for a column.
+  Recordset OpenRecordset(std::string_view table, const Columns& columns = {});
+
+  /// A dynaset: the set of rows is fixed now, each row's values are fetched when the cursor comes
+  /// to it.
+  Recordset OpenDynaset(std::string_view table);
+
+  void Close();
+
+ private:
+  friend class Workspace;
+  struct Connection;
+  explicit Database(std::shared_ptr<Connection> connection);
+  std::shared_ptr<Connection> connection_;
+};
+
+/// A cursor over the rows of one table in stored order. Every operation may raise 3260 (locked),
+/// 3026 (disk full), 3027 (read-only).
+class Recordset {
+ public:
+  Recordset(Recordset&&) noexcept;
+  Recordset& operator=(Recordset&&) noexcept;
+  ~Recordset();
+
+  int RecordCount() const;
+  /// True when positioned past the last row; true at once on an empty table.
+  bool Eof() const;
+
+  /// Raise 3021 on an empty set.
+  void MoveFirst();
+  void MoveLast();
+  /// Off the last row Eof() becomes true; raises 3021 when it is true already.
+  void MoveNext();
+  /// Raises 3021 at the first row's other side; Bof is no place to stand on.
+  void MovePrevious();
+  /// Moves by `rows`, also backwards; 0 fetches the row again. Beyond either end it raises 3021 and
+  /// leaves no current row.
+  void Move(int rows);
+
+  /// A column's value by ordinal or name: text, Null or a flag. Raises 3021 (no current row), 3167
+  /// (deleted), 3265 (no such column).
+  Value Fields(int ordinal) const;
+  Value Fields(std::string_view name) const;
+
+  /// Assigns a column of the row begun by AddNew or Edit. A number is stored as its general text
+  /// with a decimal point. Raises 3020 without AddNew or Edit, 3265.
+  void setField(int ordinal, const Value& value);
+  void setField(std::string_view name, const Value& value);
+
+  /// A new row: flags No, text columns Null until assigned. What was pending is dropped.
+  void AddNew();
+  void Edit();
+  /// Stores the row as a transaction of its own; after AddNew the row that was current is current
+  /// again. Raises 3020, 3167.
+  void Update();
+  /// Removes the row at once. The position stays on it, unusable, until a move; MoveNext then
+  /// reaches the row that followed.
+  void Delete();
+  void Close();
+
+  int FieldCount() const;
+  const std::string& FieldName(int ordinal) const;
+
+  /// Called after every move that ended on a row.
+  std::function<void()> moved;
+
+ private:
+  friend class Database;
+  struct Cursor;
+  explicit Recordset(std::unique_ptr<Cursor> cursor);
+  std::unique_ptr<Cursor> cursor_;
+};
+
+}  // namespace nautrel
