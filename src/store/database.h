@@ -70,6 +70,8 @@ class Recordset {
   int RecordCount() const;
   /// True when positioned past the last row; true at once on an empty table.
   bool Eof() const;
+  /// The current row's place in the set, from 0; -1 without a current row.
+  int AbsolutePosition() const;
 
   /// Raise 3021 on an empty set.
   void MoveFirst();
