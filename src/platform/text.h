@@ -14,7 +14,7 @@ struct Locale {
   std::string decimal = ".";
   std::string grouping = ",";
   /// Date and time forms in the letters d, dd, M, MM, yy, yyyy, H, HH, h, hh, mm, ss, AP; other
-  /// characters stand for themselves.
+  /// characters stand for themselves, and so does everything between single quotes.
   std::string shortDate = "M/d/yyyy";
   std::string longTime = "h:mm:ss AP";
 };
@@ -41,7 +41,8 @@ std::int16_t toInt16(double number);
 std::int32_t toInt32(double number);
 
 /// The general form: at most 15 significant digits, without an exponent as long as 15 digits
-/// before or behind the separator are enough.
+/// before or behind the separator are enough. Raises 6 for what is no finite number, as does
+/// formatNumber().
 std::string generalText(double number, const Locale& locale);
 
 /// Formats by a pattern of '#', '0' and at most one '.': "###0.000", "#.##", "#". Rounds the

@@ -1,0 +1,124 @@
+#include "platform/text.h"
+
+#include <utf8proc.h>
+
+#include <algorithm>
+#include <array>
+
+namespace nautrel {
+namespace {
+
+constexpr char32_t kBroken = 0xFFFD;
+
+struct Character {
+  char32_t code = 0;
+  std::size_t bytes = 0;
+};
+
+// A byte that begins no character counts as one, so that a damaged text still has its length.
+Character characterAt(std::string_view text, std::size_t byte) {
+  const auto first = static_cast<unsigned char>(text[byte]);
+  if (first < 0x80) return {first, 1};
+  utf8proc_int32_t code = 0;
+  const auto bytes = utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data() + byte),
+                                      static_cast<utf8proc_ssize_t>(text.size() - byte), &code);
+  if (bytes <= 0) return {kBroken, 1};
+  return {static_cast<char32_t>(code), static_cast<std::size_t>(bytes)};
+}
+
+void append(std::string& text, char32_t code) {
+  std::array<utf8proc_uint8_t, 4> bytes{};
+  const auto count = utf8proc_encode_char(static_cast<utf8proc_int32_t>(code), bytes.data());
+  text.append(reinterpret_cast<const char*>(bytes.data()), static_cast<std::size_t>(count));
+}
+
+// What the code page holds from byte 0x80 on; from 0xA0 on it is the same as Unicode. The five
+// bytes without a character stand for the control characters of the same number.
+constexpr unsigned kFirstOwn = 0x80;
+constexpr std::array<char32_t, 32> kOwn{
+    U'€', 0x81, U'‚', U'ƒ', U'„', U'…', U'†', U'‡', U'ˆ', U'‰', U'Š', U'‹', U'Œ', 0x8D, U'Ž', 0x8F,
+    0x90, U'‘', U'’', U'“', U'”', U'•', U'–', U'—', U'˜', U'™', U'š', U'›', U'œ', 0x9D, U'ž', U'Ÿ'};
+
+char codePageByte(char32_t code) {
+  if (code < kFirstOwn || (code >= kFirstOwn + kOwn.size() && code <= 0xFF))
+    return static_cast<char>(code);
+  const auto* place = std::find(kOwn.begin(), kOwn.end(), code);
+  if (place == kOwn.end()) return '?';
+  return static_cast<char>(kFirstOwn + static_cast<unsigned>(place - kOwn.begin()));
+}
+
+}  // namespace
+
+std::string lowerCase(std::string_view text) {
+  std::string lower;
+  lower.reserve(text.size());
+  for (std::size_t byte = 0; byte < text.size();) {
+    const auto [code, bytes] = characterAt(text, byte);
+    if (code < 0x80)
+      lower += static_cast<char>(code >= 'A' && code <= 'Z' ? code + ('a' - 'A') : code);
+    else if (code == kBroken)
+      lower += text.substr(byte, bytes);
+    else
+      append(lower, static_cast<char32_t>(utf8proc_tolower(static_cast<utf8proc_int32_t>(code))));
+    byte += bytes;
+  }
+  return lower;
+}
+
+std::size_t characters(std::string_view text) {
+  std::size_t count = 0;
+  for (std::size_t byte = 0; byte < text.size(); ++count) byte += characterAt(text, byte).bytes;
+  return count;
+}
+
+std::string firstCharacters(std::string_view text, std::size_t count) {
+  return std::string(text.substr(0, byteOfCharacter(text, count)));
+}
+
+std::size_t byteOfCharacter(std::string_view text, std::size_t index) {
+  std::size_t byte = 0;
+  for (; index > 0 && byte < text.size(); --index) byte += characterAt(text, byte).bytes;
+  return byte;
+}
+
+bool isWordCharacter(char32_t character) {
+  if (character == U'_') return true;
+  switch (utf8proc_category(static_cast<utf8proc_int32_t>(character))) {
+    case UTF8PROC_CATEGORY_LU:
+    case UTF8PROC_CATEGORY_LL:
+    case UTF8PROC_CATEGORY_LT:
+    case UTF8PROC_CATEGORY_LM:
+    case UTF8PROC_CATEGORY_LO:
+    case UTF8PROC_CATEGORY_ND:
+    // An accent written as a character of its own belongs to the letter before it.
+    case UTF8PROC_CATEGORY_MN:
+    case UTF8PROC_CATEGORY_MC:
+      return true;
+    default:
+      return false;
+  }
+}
+
+std::string toCodePage(std::string_view text) {
+  std::string bytes;
+  bytes.reserve(text.size());
+  for (std::size_t byte = 0; byte < text.size();) {
+    const auto character = characterAt(text, byte);
+    bytes += codePageByte(character.code);
+    byte += character.bytes;
+  }
+  return bytes;
+}
+
+std::string fromCodePage(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size());
+  for (const char byte : bytes) {
+    const auto number = static_cast<unsigned char>(byte);
+    const bool own = number >= kFirstOwn && number < kFirstOwn + kOwn.size();
+    append(text, own ? kOwn[number - kFirstOwn] : number);
+  }
+  return text;
+}
+
+}  // namespace nautrel
