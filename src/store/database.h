@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,6 +11,8 @@
 
 namespace nautrel {
 
+class Connection;
+class Cursor;
 class Database;
 class Recordset;
 
@@ -28,15 +31,15 @@ class Workspace {
 
   /// Brings everything written so far into the one file and on the disk. Called when the outermost
   /// handler ends and before the user is told anything. Costs nothing if nothing was written.
+  /// Raises 3026 (disk full) and what OpenDatabase raises.
   void settle();
 
  private:
-  friend class Database;
-  struct State;
-  std::shared_ptr<State> state_;
+  std::shared_ptr<std::set<std::string>> written_;
 };
 
-/// The columns that a pass needs, by name; none given means all of them.
+/// The columns that a pass needs, by name; none given means all of them. The ordinals stay those of
+/// the table; reading a column that is not among them raises 3265.
 using Columns = std::vector<std::string>;
 
 /// One open connection; closed by Close() or by the end of its life. Recordsets keep it alive.
@@ -54,13 +57,12 @@ class Database {
 
  private:
   friend class Workspace;
-  struct Connection;
   explicit Database(std::shared_ptr<Connection> connection);
   std::shared_ptr<Connection> connection_;
 };
 
-/// A cursor over the rows of one table in stored order. Every operation may raise 3260 (locked),
-/// 3026 (disk full), 3027 (read-only).
+/// A cursor over the rows of one table in stored order. Every operation may raise 91 (closed), 3260
+/// (locked), 3026 (disk full), 3027 (read-only).
 class Recordset {
  public:
   Recordset(Recordset&&) noexcept;
@@ -78,7 +80,7 @@ class Recordset {
   void MoveLast();
   /// Off the last row Eof() becomes true; raises 3021 when it is true already.
   void MoveNext();
-  /// Raises 3021 at the first row's other side; Bof is no place to stand on.
+  /// Raises 3021 on the first row and stays there; Bof is no place to stand on.
   void MovePrevious();
   /// Moves by `rows`, also backwards; 0 fetches the row again. Beyond either end it raises 3021 and
   /// leaves no current row.
@@ -90,7 +92,8 @@ class Recordset {
   Value Fields(std::string_view name) const;
 
   /// Assigns a column of the row begun by AddNew or Edit. A number is stored as its general text
-  /// with a decimal point. Raises 3020 without AddNew or Edit, 3265.
+  /// with a decimal point. Raises 3020 without AddNew or Edit, 3265. A flag takes flags and
+  /// numbers, and raises 13 for a text, 94 for Null.
   void setField(int ordinal, const Value& value);
   void setField(std::string_view name, const Value& value);
 
@@ -101,7 +104,7 @@ class Recordset {
   /// again. Raises 3020, 3167.
   void Update();
   /// Removes the row at once. The position stays on it, unusable, until a move; MoveNext then
-  /// reaches the row that followed.
+  /// reaches the row that followed. Raises 3021, 3167.
   void Delete();
   void Close();
 
@@ -113,7 +116,8 @@ class Recordset {
 
  private:
   friend class Database;
-  struct Cursor;
+  Cursor& cursor() const;
+  void raiseMoved();
   explicit Recordset(std::unique_ptr<Cursor> cursor);
   std::unique_ptr<Cursor> cursor_;
 };

@@ -1,0 +1,191 @@
+#include "store/connection.h"
+
+#include <system_error>
+#include <utility>
+
+#include "platform/errors.h"
+
+namespace nautrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kWaitForOthers = 5000;      // ms, until a lock counts as an error
+constexpr int kWaitForCheckpoint = 1000;  // ms; what waits longer is safe in the synced log
+
+/// The engine takes a missing file for CANTOPEN and an empty one for a new database.
+void requireLogbook(const std::string& path) {
+  const fs::path file = fromUtf8(path);
+  std::error_code failed;
+  const auto status = fs::status(file, failed);
+  if (status.type() == fs::file_type::not_found) {
+    const auto folder = file.parent_path();
+    const bool inFolder = folder.empty() || fs::is_directory(folder, failed);
+    raise(inFolder ? DatabaseNotFound : PathNotValid, path);
+  }
+  if (fs::is_regular_file(status) && fs::file_size(file, failed) == 0)
+    raise(UnrecognizedFormat, path);
+}
+
+ErrorNumber failureFor(int code) {
+  switch (code) {
+    case SQLITE_IOERR_WRITE:
+    case SQLITE_IOERR_FSYNC:
+    case SQLITE_IOERR_SHMSIZE:
+      return DiskFull;
+  }
+  switch (code & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return CouldNotLock;
+    case SQLITE_FULL:
+      return DiskFull;
+    case SQLITE_READONLY:
+      return DatabaseReadOnly;
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT:
+      return UnrecognizedFormat;
+    default:
+      return CannotOpenFile;
+  }
+}
+
+}  // namespace
+
+fs::path fromUtf8(const std::string& path) {
+  return fs::path(std::u8string(path.begin(), path.end()));
+}
+
+Connection::Connection(std::string path, std::shared_ptr<std::set<std::string>> written)
+    : path_(std::move(path)), written_(std::move(written)) {
+  requireLogbook(path_);
+  try {
+    open(SQLITE_OPEN_READWRITE);
+  } catch (const RunTimeError& failure) {
+    if (failure.number == CouldNotLock) raise(CannotOpenFile, path_);
+    throw;
+  }
+}
+
+Connection::Connection(std::string path)
+    : path_(std::move(path)), written_(std::make_shared<std::set<std::string>>()) {}
+
+Connection Connection::create(std::string path) {
+  Connection made(std::move(path));
+  made.open(SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  return made;
+}
+
+void Connection::open(int flags) {
+  sqlite3* opened = nullptr;
+  const int code = sqlite3_open_v2(path_.c_str(), &opened,
+                                   flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
+  handle_.reset(opened);
+  if (code != SQLITE_OK) raiseFailure(code);
+  sqlite3_busy_timeout(opened, kWaitForOthers);
+  Statement(*this, "PRAGMA synchronous = NORMAL").run();
+  Statement(*this, "PRAGMA schema_version").step();
+}
+
+void Connection::raiseFailure(int code) const {
+  raise(failureFor(code), path_);
+}
+
+void Connection::beforeWriting() {
+  if (sqlite3_db_readonly(handle(), "main") == 1) raise(DatabaseReadOnly);
+  if (std::exchange(logAhead_, true)) return;
+  // A file that another tool left without the log would sync the disk at every single change. If
+  // it cannot be mended now, the change itself still goes the slow and safe way.
+  resumeNext([&] { Statement(*this, "PRAGMA journal_mode = WAL").step(); });
+}
+
+int Connection::rowsWritten() {
+  written_->insert(path_);
+  return sqlite3_changes(handle());
+}
+
+void Connection::checkpoint() {
+  sqlite3_busy_timeout(handle(), kWaitForCheckpoint);
+  const int code =
+      sqlite3_wal_checkpoint_v2(handle(), "main", SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr);
+  if ((code & 0xff) == SQLITE_BUSY)
+    syncLog();
+  else if (code != SQLITE_OK)
+    raiseFailure(code);
+}
+
+/// Another program that reads or writes for long keeps the log from being emptied. What was written
+/// is then safe in the log, which belongs to the file until the last program closes it.
+void Connection::syncLog() {
+  sqlite3_file* log = nullptr;
+  sqlite3_file_control(handle(), "main", SQLITE_FCNTL_JOURNAL_POINTER, &log);
+  if (log == nullptr || log->pMethods == nullptr) return;
+  const int code = log->pMethods->xSync(log, SQLITE_SYNC_NORMAL);
+  if (code != SQLITE_OK) raiseFailure(code);
+}
+
+Statement::Statement(const Connection& connection, const std::string& sql)
+    : connection_(&connection) {
+  sqlite3_stmt* prepared = nullptr;
+  const int code = sqlite3_prepare_v2(connection.handle(), sql.c_str(),
+                                      static_cast<int>(sql.size() + 1), &prepared, nullptr);
+  handle_.reset(prepared);
+  if (code != SQLITE_OK) connection.raiseFailure(code);
+}
+
+void Statement::bind(int place, std::int64_t number) {
+  sqlite3_bind_int64(handle_.get(), place, number);
+}
+
+void Statement::bindText(int place, std::string_view text) {
+  const int code = sqlite3_bind_text64(handle_.get(), place, text.data(), text.size(),
+                                       SQLITE_TRANSIENT, SQLITE_UTF8);
+  if (code != SQLITE_OK) connection_->raiseFailure(code);
+}
+
+void Statement::bindNull(int place) {
+  sqlite3_bind_null(handle_.get(), place);
+}
+
+bool Statement::step() {
+  const int code = sqlite3_step(handle_.get());
+  if (code == SQLITE_ROW) return true;
+  if (code == SQLITE_DONE) return false;
+  reset();
+  connection_->raiseFailure(code);
+}
+
+void Statement::run() {
+  step();
+  reset();
+}
+
+void Statement::reset() {
+  sqlite3_reset(handle_.get());
+}
+
+std::string Statement::columnName(int column) const {
+  return sqlite3_column_name(handle_.get(), column);
+}
+
+Kind Statement::columnKind(int column) const {
+  const char* declared = sqlite3_column_decltype(handle_.get(), column);
+  const bool flag = declared != nullptr && sqlite3_stricmp(declared, "BOOLEAN") == 0;
+  return flag ? Kind::Flag : Kind::Text;
+}
+
+Value Statement::value(int column, Kind kind) const {
+  if (kind == Kind::Flag) return sqlite3_column_int(handle_.get(), column) != 0;
+  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(handle_.get(), column));
+  if (text == nullptr) return Value::null();
+  const auto size = static_cast<std::size_t>(sqlite3_column_bytes(handle_.get(), column));
+  return std::string(text, size);
+}
+
+std::string sqlName(std::string_view name) {
+  std::string sql = "\"";
+  for (const char character : name) sql.append(character == '"' ? 2 : 1, character);
+  return sql += '"';
+}
+
+}  // namespace nautrel

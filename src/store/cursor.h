@@ -1,0 +1,101 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "store/connection.h"
+
+namespace nautrel {
+
+/// What the two kinds of recordset share: the row on which they stand, and the changes begun on it.
+///
+/// One statement serves every read: the rows from a given one on, in stored order. While it stands
+/// on a row it holds a snapshot of the file; release() lets go of it and keeps the row's values.
+class Cursor {
+ public:
+  virtual ~Cursor() = default;
+
+  virtual int count() = 0;
+  /// From 0; -1 without a current row.
+  virtual int position() = 0;
+  virtual void first() = 0;
+  virtual void last() = 0;
+  virtual void next() = 0;
+  virtual void previous() = 0;
+  virtual void move(int rows) = 0;
+  bool atEnd() const { return place_ == Place::End; }
+
+  const std::vector<std::string>& names() const { return names_; }
+  /// Raises 3265.
+  int ordinalOf(std::string_view name) const;
+  Value field(int ordinal) const;
+
+  void assign(int ordinal, const Value& value);
+  void addNew();
+  void edit();
+  void update();
+  void remove();
+
+ protected:
+  enum class Place { Row, Deleted, Before, End };
+
+  Cursor(std::shared_ptr<Connection> connection, std::string_view table,
+         const std::vector<std::string>& columns);
+
+  /// Goes to the first row that is not before `from`; past the end if there is none.
+  bool seek(std::int64_t from);
+  /// The row after the one on which the walk stands.
+  bool step();
+  /// Reads this very row again; marks it as deleted if it is gone.
+  void fetch(std::int64_t row);
+  void release();
+  bool live() const { return live_; }
+  void drop() { pending_ = Pending::None; }
+
+  /// Fetches the current row's newest values, and holds no snapshot afterwards.
+  virtual void refetch() = 0;
+  virtual void added(std::int64_t row) = 0;
+  virtual void removed() = 0;
+
+  std::shared_ptr<Connection> connection_;
+  std::string table_;
+  Place place_ = Place::Before;
+  std::int64_t row_ = 0;
+
+ private:
+  enum class Pending { None, AddNew, Edit };
+  using Assigned = std::vector<std::pair<int, Value>>;
+
+  void readShape();
+  void prepareWalk(const std::vector<std::string>& columns);
+  void requireColumn(int ordinal) const;
+  void requireRow() const;
+  const Value* assigned(int ordinal) const;
+  Value blank(int ordinal) const;
+  void insertRow();
+  void updateRow();
+  void prepareUpdate();
+  void bindColumn(Statement& statement, int place, int ordinal, const Value& value) const;
+
+  std::vector<std::string> names_;
+  std::vector<Kind> kinds_;
+  std::vector<int> slots_;     // by ordinal: the place in the walk, or -1
+  std::vector<int> ordinals_;  // by place in the walk
+
+  Statement walk_;
+  bool live_ = false;
+  std::vector<Value> values_;  // by place in the walk, once released
+
+  Pending pending_ = Pending::None;
+  Assigned assigned_;
+  Statement insert_;
+  Statement update_;
+  std::vector<int> updates_;  // the columns that update_ writes
+  Statement remove_;
+};
+
+}  // namespace nautrel

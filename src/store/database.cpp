@@ -1,0 +1,138 @@
+#include "store/database.h"
+
+#include <utility>
+
+#include "platform/errors.h"
+#include "store/connection.h"
+#include "store/dynaset.h"
+#include "store/table_cursor.h"
+
+namespace nautrel {
+
+Workspace::Workspace() : written_(std::make_shared<std::set<std::string>>()) {}
+
+Workspace::~Workspace() = default;
+
+Database Workspace::OpenDatabase(const std::string& path) {
+  return Database(std::make_shared<Connection>(path, written_));
+}
+
+void Workspace::settle() {
+  for (const auto& path : std::exchange(*written_, {})) Connection(path, written_).checkpoint();
+}
+
+Database::Database(std::shared_ptr<Connection> connection) : connection_(std::move(connection)) {}
+
+Recordset Database::OpenRecordset(std::string_view table, const Columns& columns) {
+  if (!connection_) raise(ObjectNotSet);
+  return Recordset(std::make_unique<TableCursor>(connection_, table, columns));
+}
+
+Recordset Database::OpenDynaset(std::string_view table) {
+  if (!connection_) raise(ObjectNotSet);
+  return Recordset(std::make_unique<Dynaset>(connection_, table));
+}
+
+void Database::Close() {
+  connection_.reset();
+}
+
+Recordset::Recordset(std::unique_ptr<Cursor> cursor) : cursor_(std::move(cursor)) {}
+Recordset::Recordset(Recordset&&) noexcept = default;
+Recordset& Recordset::operator=(Recordset&&) noexcept = default;
+Recordset::~Recordset() = default;
+
+Cursor& Recordset::cursor() const {
+  if (!cursor_) raise(ObjectNotSet);
+  return *cursor_;
+}
+
+/// The handler may well replace this recordset: nothing of it is touched afterwards.
+void Recordset::raiseMoved() {
+  if (const auto handler = moved) handler();
+}
+
+int Recordset::RecordCount() const {
+  return cursor().count();
+}
+
+bool Recordset::Eof() const {
+  return cursor().atEnd();
+}
+
+int Recordset::AbsolutePosition() const {
+  return cursor().position();
+}
+
+void Recordset::MoveFirst() {
+  cursor().first();
+  raiseMoved();
+}
+
+void Recordset::MoveLast() {
+  cursor().last();
+  raiseMoved();
+}
+
+void Recordset::MoveNext() {
+  cursor().next();
+  if (!Eof()) raiseMoved();
+}
+
+void Recordset::MovePrevious() {
+  cursor().previous();
+  raiseMoved();
+}
+
+void Recordset::Move(int rows) {
+  cursor().move(rows);
+  raiseMoved();
+}
+
+Value Recordset::Fields(int ordinal) const {
+  return cursor().field(ordinal);
+}
+
+Value Recordset::Fields(std::string_view name) const {
+  return cursor().field(cursor().ordinalOf(name));
+}
+
+void Recordset::setField(int ordinal, const Value& value) {
+  cursor().assign(ordinal, value);
+}
+
+void Recordset::setField(std::string_view name, const Value& value) {
+  cursor().assign(cursor().ordinalOf(name), value);
+}
+
+void Recordset::AddNew() {
+  cursor().addNew();
+}
+
+void Recordset::Edit() {
+  cursor().edit();
+}
+
+void Recordset::Update() {
+  cursor().update();
+}
+
+void Recordset::Delete() {
+  cursor().remove();
+}
+
+void Recordset::Close() {
+  cursor_.reset();
+}
+
+int Recordset::FieldCount() const {
+  return static_cast<int>(cursor().names().size());
+}
+
+const std::string& Recordset::FieldName(int ordinal) const {
+  const auto& names = cursor().names();
+  if (ordinal < 0 || ordinal >= FieldCount()) raise(ItemNotFound);
+  return names[static_cast<std::size_t>(ordinal)];
+}
+
+}  // namespace nautrel

@@ -1,0 +1,91 @@
+#include "store/dynaset.h"
+
+#include <utility>
+
+#include "platform/errors.h"
+
+namespace nautrel {
+
+Dynaset::Dynaset(std::shared_ptr<Connection> connection, std::string_view table)
+    : Cursor(std::move(connection), table, {}) {
+  Statement rows(*connection_, "SELECT rowid FROM " + sqlName(table_) + " ORDER BY rowid");
+  while (rows.step()) rows_.push_back(rows.integer(0));
+  if (rows_.empty())
+    leave(Place::End);
+  else
+    goTo(0);
+}
+
+int Dynaset::position() {
+  const bool nowhere = inGap_ || place_ == Place::Before || place_ == Place::End;
+  return nowhere ? -1 : index_;
+}
+
+void Dynaset::first() {
+  drop();
+  if (rows_.empty()) raise(NoCurrentRecord);
+  goTo(0);
+}
+
+void Dynaset::last() {
+  drop();
+  if (rows_.empty()) raise(NoCurrentRecord);
+  goTo(size() - 1);
+}
+
+void Dynaset::next() {
+  drop();
+  if (atEnd()) raise(NoCurrentRecord);
+  const auto index = target(1);
+  if (index == size())
+    leave(Place::End);
+  else
+    goTo(index);
+}
+
+void Dynaset::previous() {
+  drop();
+  const auto index = target(-1);
+  if (index < 0) raise(NoCurrentRecord);
+  goTo(index);
+}
+
+void Dynaset::move(int rows) {
+  drop();
+  if (rows == 0 && inGap_) raise(RecordDeleted);
+  const auto index = target(rows);
+  if (index < 0 || index >= size()) {
+    leave(index < 0 ? Place::Before : Place::End);
+    raise(NoCurrentRecord);
+  }
+  goTo(index);
+}
+
+long long Dynaset::target(int rows) const {
+  if (place_ == Place::Before) return -1LL + rows;
+  if (place_ == Place::End) return static_cast<long long>(size()) + rows;
+  return static_cast<long long>(index_) + rows - (inGap_ && rows > 0 ? 1 : 0);
+}
+
+void Dynaset::goTo(long long index) {
+  index_ = static_cast<int>(index);
+  inGap_ = false;
+  fetch(rows_[static_cast<std::size_t>(index)]);
+  release();
+}
+
+void Dynaset::leave(Place end) {
+  inGap_ = false;
+  place_ = end;
+}
+
+void Dynaset::refetch() {
+  goTo(index_);
+}
+
+void Dynaset::removed() {
+  rows_.erase(rows_.begin() + index_);
+  inGap_ = true;
+}
+
+}  // namespace nautrel

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "store/cursor.h"
+
+namespace nautrel {
+
+/// Walks the table itself.
+class TableCursor final : public Cursor {
+ public:
+  TableCursor(std::shared_ptr<Connection> connection, std::string_view table,
+              const std::vector<std::string>& columns);
+
+  int count() override;
+  int position() override;
+  void first() override;
+  void last() override;
+  void next() override;
+  void previous() override;
+  void move(int rows) override;
+
+ private:
+  std::optional<std::int64_t> rowUpTo(std::int64_t limit);
+  bool forward();
+  bool backward();
+  void refetch() override;
+  void added(std::int64_t row) override;
+  void removed() override;
+
+  std::optional<int> count_;
+  Statement backwards_;
+};
+
+}  // namespace nautrel

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <filesystem>
+#include <random>
+#include <string>
+
+#include "platform/errors.h"
+#include "store/contract.h"
+#include "store/database.h"
+#include "store/delivered.h"
+
+namespace nautrel {
+
+/// The number of the failure that a statement raises; 0 if it raises none.
+template <class Action>
+int failureOf(Action&& action) {
+  try {
+    action();
+  } catch (const RunTimeError& failure) {
+    return failure.number;
+  }
+  return 0;
+}
+
+/// A connection as another program would hold it.
+class OtherProgram {
+ public:
+  explicit OtherProgram(const std::string& path) {
+    sqlite3_open_v2(path.c_str(), &handle_, SQLITE_OPEN_READWRITE, nullptr);
+    sqlite3_busy_timeout(handle_, 5000);
+  }
+  ~OtherProgram() { sqlite3_close(handle_); }
+  OtherProgram(const OtherProgram&) = delete;
+  OtherProgram& operator=(const OtherProgram&) = delete;
+
+  /// Runs a statement; its rows' first columns, joined by commas.
+  std::string run(const std::string& sql) {
+    std::string answer;
+    char* message = nullptr;
+    const auto collect = [](void* all, int, char** values, char**) {
+      auto& text = *static_cast<std::string*>(all);
+      text += (text.empty() ? "" : ",") + std::string(values[0] != nullptr ? values[0] : "NULL");
+      return 0;
+    };
+    if (sqlite3_exec(handle_, sql.c_str(), collect, &answer, &message) != SQLITE_OK)
+      answer = std::string("error: ") + message;
+    sqlite3_free(message);
+    return answer;
+  }
+
+ private:
+  sqlite3* handle_ = nullptr;
+};
+
+/// A fresh folder with a delivered logbook in it.
+class StoreTest : public testing::Test {
+ protected:
+  StoreTest()
+      : folder(std::filesystem::temp_directory_path() /
+               ("nautrel-store-" + std::to_string(std::random_device{}()))) {
+    std::filesystem::create_directories(folder);
+    path = (folder / kLogbookFile).string();
+    createDeliveredLogbook(path);
+  }
+  ~StoreTest() override {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+  }
+
+  Recordset table(std::string_view name = Tabelle::Logbuch) {
+    return workspace.OpenDatabase(path).OpenRecordset(name);
+  }
+  Recordset dynaset(std::string_view name = Tabelle::Logbuch) {
+    return workspace.OpenDatabase(path).OpenDynaset(name);
+  }
+  std::string otherProgram(const std::string& sql) { return OtherProgram(path).run(sql); }
+
+  void addDives(int first, int last) {
+    auto dives = table();
+    for (int number = first; number <= last; ++number) {
+      dives.AddNew();
+      dives.setField("Nr", number);
+      dives.Update();
+    }
+  }
+  static std::string number(const Recordset& dives) { return dives.Fields(Feld::Nr).joined({}); }
+  std::string numbers() { return otherProgram("SELECT Nr FROM Logbuch ORDER BY rowid"); }
+
+  std::filesystem::path folder;
+  std::string path;
+  Workspace workspace;
+};
+
+}  // namespace nautrel
