@@ -1,0 +1,90 @@
+#include "store/delivered.h"
+
+#include <filesystem>
+#include <random>
+#include <system_error>
+
+#include "platform/errors.h"
+#include "store/connection.h"
+#include "store/contract.h"
+
+namespace nautrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A file of its own beside the target, gone at the end whatever happens.
+class DraftFile {
+ public:
+  explicit DraftFile(const std::string& target)
+      : path_(target + ".new" + std::to_string(std::random_device{}())) {}
+  ~DraftFile() {
+    std::error_code ignored;
+    fs::remove(fromUtf8(path_), ignored);
+  }
+  DraftFile(const DraftFile&) = delete;
+  DraftFile& operator=(const DraftFile&) = delete;
+
+  const std::string& path() const { return path_; }
+
+ private:
+  std::string path_;
+};
+
+std::string creation(const Table& table) {
+  std::string columns;
+  for (const auto& column : table.columns) {
+    columns += (columns.empty() ? "" : ", ") + sqlName(column.name);
+    columns += column.kind == Kind::Flag ? " BOOLEAN NOT NULL DEFAULT 0" : " TEXT";
+  }
+  return "CREATE TABLE " + sqlName(table.name) + " (" + columns + ")";
+}
+
+std::string emptyRow(const Table& table) {
+  std::string values;
+  for (const auto& column : table.columns) {
+    values += values.empty() ? "" : ", ";
+    values += column.kind == Kind::Flag ? "0" : "''";
+  }
+  return "INSERT INTO " + sqlName(table.name) + " VALUES (" + values + ")";
+}
+
+void fill(const Connection& draft) {
+  Statement(draft, "PRAGMA journal_mode = WAL").step();
+  Statement(draft, "BEGIN").run();
+  for (const auto& table : logbookTables()) {
+    Statement(draft, creation(table)).run();
+    for (int row = 0; row < table.deliveredRows; ++row) Statement(draft, emptyRow(table)).run();
+  }
+  // The dives are counted again and again: through a narrow index that costs a tenth of the walk.
+  Statement(draft, "CREATE INDEX \"Zählung\" ON \"Logbuch\" (\"Rep\")").run();
+  Statement(draft, "COMMIT").run();
+}
+
+/// Puts the finished draft in its place in one step, unless something stands there.
+bool place(const std::string& draft, const std::string& target) {
+  std::error_code failed;
+  fs::create_hard_link(fromUtf8(draft), fromUtf8(target), failed);
+  if (!failed) return true;
+  if (failed == std::errc::file_exists) return false;
+  // Some file systems know no hard links.
+  if (fs::copy_file(fromUtf8(draft), fromUtf8(target), fs::copy_options::none, failed)) return true;
+  if (failed == std::errc::file_exists) return false;
+  raise(CannotOpenFile, target);
+}
+
+}  // namespace
+
+bool createDeliveredLogbook(const std::string& path) {
+  const fs::path target = fromUtf8(path);
+  std::error_code failed;
+  if (fs::exists(fs::symlink_status(target, failed))) return false;
+  if (target.has_parent_path() && !fs::is_directory(target.parent_path(), failed))
+    raise(PathNotValid, path);
+
+  const DraftFile draft(path);
+  fill(Connection::create(draft.path()));
+  return place(draft.path(), path);
+}
+
+}  // namespace nautrel
