@@ -1,0 +1,376 @@
+#include "platform/controls.h"
+
+#include <algorithm>
+
+#include "platform/errors.h"
+#include "platform/form.h"
+#include "platform/program.h"
+#include "platform/text.h"
+
+namespace nautrel {
+
+Label::Label(Form& form, std::string name, std::string caption)
+    : Control(form, std::move(name)), caption_(std::move(caption)) {}
+
+void Label::setCaption(std::string caption) {
+  if (caption_ == caption) return;
+  caption_ = std::move(caption);
+  changed();
+}
+
+Frame& Frame::holds(std::initializer_list<Control*> controls) {
+  for (auto* control : controls) control->setContainer(*this);
+  return *this;
+}
+
+TextBox::TextBox(Form& form, std::string name, Design design)
+    : Control(form, std::move(name)),
+      text_(std::move(design.text)),
+      maxLength_(design.maxLength),
+      locked_(design.locked),
+      multiLine_(design.multiLine) {
+  setVisible(design.visible);
+}
+
+void TextBox::setText(std::string_view text) {
+  const std::string fitting =
+      maxLength_ == 0 ? std::string(text) : firstCharacters(text, maxLength_);
+  if (text_ == fitting) return;
+  const auto fromEnd = characters(text_) - std::min(characters(text_), start_ + length_);
+  text_ = fitting;
+  const auto size = characters(text_);
+  start_ = size - std::min(size, fromEnd);
+  length_ = 0;
+  changed();
+  raiseEvent(Change);
+}
+
+void TextBox::select(std::size_t start, std::size_t length) {
+  const auto size = characters(text_);
+  start_ = std::min(start, size);
+  length_ = std::min(length, size - start_);
+  ++stamp_;
+  changed();
+}
+
+void TextBox::selectAll() {
+  select(0, characters(text_));
+}
+
+void TextBox::userSelect(std::size_t start, std::size_t length) {
+  start_ = start;
+  length_ = length;
+}
+
+void TextBox::userInsert(std::string_view typed) {
+  replace(start_, length_, typed);
+}
+
+void TextBox::userBackspace() {
+  if (length_ > 0) return replace(start_, length_, {});
+  if (start_ > 0) replace(start_ - 1, 1, {});
+}
+
+void TextBox::userDelete() {
+  replace(start_, length_ > 0 ? length_ : 1, {});
+}
+
+void TextBox::replace(std::size_t start, std::size_t length, std::string_view inserted) {
+  const auto from = byteOfCharacter(text_, start);
+  const auto to = byteOfCharacter(text_, start + length);
+  userEdit(text_.substr(0, from).append(inserted).append(text_, to), start + characters(inserted));
+}
+
+void TextBox::userEdit(std::string_view text, std::size_t caret) {
+  std::string result(text);
+  const auto size = characters(result);
+  if (maxLength_ != 0 && size > maxLength_) {
+    const auto excess = std::min(size - maxLength_, caret);
+    const auto cut = byteOfCharacter(result, caret - excess);
+    result.erase(cut, byteOfCharacter(result, caret) - cut);
+    caret -= excess;
+  }
+  form().program().handle([&] { edit(std::move(result), caret); });
+}
+
+void TextBox::edit(std::string text, std::size_t caret) {
+  changed();
+  if (locked_ || !enabled() || !form().enabled()) return;
+  start_ = caret;
+  length_ = 0;
+  if (text_ == text) return;
+  text_ = std::move(text);
+  raiseEvent(Change);
+}
+
+Button::Button(Form& form, std::string name, std::string caption)
+    : Control(form, std::move(name)), caption_(std::move(caption)) {}
+
+void Button::setCaption(std::string caption) {
+  if (caption_ == caption) return;
+  caption_ = std::move(caption);
+  changed();
+}
+
+void Button::setDefault(bool isDefault) {
+  if (isDefault)
+    form().default_ = this;
+  else if (form().default_ == this)
+    form().default_ = nullptr;
+  form().notifyLook();
+}
+
+bool Button::isDefault() const {
+  return form().defaultButton() == this;
+}
+
+void Button::setCancel() {
+  form().cancel_ = this;
+}
+
+void Button::userClick() {
+  form().program().handle([this] {
+    if (!canTakeFocus() || !form().enabled()) return;
+    if (takeFocus()) raiseEvent(Click);
+  });
+}
+
+CheckBox::CheckBox(Form& form, std::string name, std::string caption, bool on)
+    : Control(form, std::move(name)), caption_(std::move(caption)), on_(on) {}
+
+void CheckBox::setOn(bool on) {
+  if (on_ == on) return;
+  on_ = on;
+  changed();
+  raiseEvent(Click);
+}
+
+void CheckBox::userClick() {
+  form().program().handle([this] {
+    changed();
+    if (!canTakeFocus() || !form().enabled()) return;
+    if (takeFocus()) setOn(!on_);
+  });
+}
+
+OptionButton::OptionButton(Form& form, std::string name, std::string caption, bool on)
+    : Control(form, std::move(name)), caption_(std::move(caption)), on_(on) {}
+
+std::vector<OptionButton*> OptionButton::group() const {
+  std::vector<OptionButton*> options;
+  for (auto* control : form().controls())
+    if (auto* option = dynamic_cast<OptionButton*>(control);
+        option != nullptr && option->container() == container() && option->page() == page())
+      options.push_back(option);
+  return options;
+}
+
+void OptionButton::setOn(bool on) {
+  if (on_ == on) return;
+  on_ = on;
+  changed();
+  if (!on) return;
+  for (auto* neighbour : group()) {
+    if (neighbour == this || !neighbour->on_) continue;
+    neighbour->on_ = false;
+    neighbour->changed();
+  }
+  raiseEvent(Click);
+}
+
+void OptionButton::userClick() {
+  form().program().handle([this] {
+    changed();
+    if (!canTakeFocus() || !form().enabled()) return;
+    if (!takeFocus()) return;
+    setOn(true);
+    raiseEvent(MouseUp);
+  });
+}
+
+void OptionButton::userDoubleClick() {
+  form().program().handle([this] {
+    changed();
+    if (hasFocus() && enabled() && form().enabled()) raiseEvent(DblClick);
+  });
+}
+
+void OptionButton::userArrow(int direction) {
+  form().program().handle([&] {
+    auto options = group();
+    const auto size = static_cast<int>(options.size());
+    const auto here =
+        static_cast<int>(std::find(options.begin(), options.end(), this) - options.begin());
+    for (int step = 1; step < size; ++step) {
+      auto* next =
+          options[static_cast<std::size_t>((here + direction * step + size * step) % size)];
+      if (!next->canTakeFocus()) continue;
+      if (next->takeFocus()) next->setOn(true);
+      return;
+    }
+  });
+}
+
+std::string ListBox::List(int index) const {
+  return index >= 0 && index < ListCount() ? lines_[static_cast<std::size_t>(index)]
+                                           : std::string{};
+}
+
+void ListBox::AddItem(std::string line) {
+  lines_.push_back(std::move(line));
+  changed();
+}
+
+void ListBox::Clear() {
+  lines_.clear();
+  index_ = -1;
+  ++generation_;
+  changed();
+}
+
+void ListBox::setListIndex(int index) {
+  if (index < -1 || index >= ListCount()) raise(InvalidPropertyValue);
+  if (index == index_) return;
+  index_ = index;
+  changed();
+  raiseEvent(Click);
+}
+
+void ListBox::userSelect(int index) {
+  form().program().handle([&] {
+    changed();
+    if (!canTakeFocus() || !form().enabled()) return;
+    if (!takeFocus() || index < 0 || index >= ListCount()) return;
+    index_ = index;
+    raiseEvent(Click);
+  });
+}
+
+void ListBox::userDoubleClick() {
+  form().program().handle([this] {
+    if (canTakeFocus() && form().enabled()) raiseEvent(DblClick);
+  });
+}
+
+ComboBox::ComboBox(Form& form, std::string name, Style style, std::vector<std::string> lines)
+    : Control(form, std::move(name)), style_(style), lines_(std::move(lines)) {}
+
+void ComboBox::AddItem(std::string line) {
+  lines_.push_back(std::move(line));
+  changed();
+}
+
+void ComboBox::setText(const std::string& text) {
+  const auto line = std::find(lines_.begin(), lines_.end(), text);
+  if (style_ == Style::ListOnly && line == lines_.end()) raise(TextIsReadOnly);
+  if (text_ == text) return;
+  text_ = text;
+  index_ = style_ == Style::ListOnly ? static_cast<int>(line - lines_.begin()) : -1;
+  changed();
+  raiseEvent(style_ == Style::ListOnly ? Click : Change);
+}
+
+void ComboBox::userType(const std::string& text) {
+  form().program().handle([&] {
+    changed();
+    if (style_ == Style::FreeText && enabled() && form().enabled()) setText(text);
+  });
+}
+
+void ComboBox::userSelect(int index) {
+  form().program().handle([&] {
+    changed();
+    if (!enabled() || !form().enabled()) return;
+    text_ = lines_.at(static_cast<std::size_t>(index));
+    index_ = index;
+    raiseEvent(Click);
+  });
+}
+
+void SpinButton::userSpin(bool up) {
+  form().program().handle([&] {
+    if (!canTakeFocus() || !form().enabled()) return;
+    if (takeFocus()) raiseEvent(up ? SpinUp : SpinDown);
+  });
+}
+
+TabStrip::TabStrip(Form& form, std::string name, std::vector<std::string> captions)
+    : Control(form, std::move(name)), captions_(std::move(captions)) {}
+
+TabStrip& TabStrip::pageHolds(int page, std::initializer_list<Control*> controls) {
+  for (auto* control : controls) control->setContainer(*this, page);
+  return *this;
+}
+
+void TabStrip::setTab(int page) {
+  if (page < 0 || page >= static_cast<int>(captions_.size())) raise(InvalidPropertyValue);
+  if (tab_ == page) return;
+  tab_ = page;
+  changed();
+  raiseEvent(Click);
+}
+
+void TabStrip::userTab(int page) {
+  form().program().handle([&] {
+    changed();
+    if (!canTakeFocus() || !form().enabled()) return;
+    if (tab_ == page) return;
+    if (takeFocus()) setTab(page);
+  });
+}
+
+Image::Image(Form& form, std::string name, bool visible) : Control(form, std::move(name)) {
+  setVisible(visible);
+}
+
+void Image::setPicture(Picture picture) {
+  if (picture_ == picture) return;
+  picture_ = std::move(picture);
+  changed();
+}
+
+PictureBox::PictureBox(Form& form, std::string name, long backColor)
+    : Frame(form, std::move(name)), backColor_(backColor) {}
+
+void PictureBox::setBackColor(long color) {
+  backColor_ = color;
+  changed();
+}
+
+void PictureBox::userClick() {
+  form().program().handle([this] {
+    if (enabled() && form().enabled()) raiseEvent(Click);
+  });
+}
+
+void ProgressBar::setMax(double max) {
+  if (max <= 0) raise(InvalidPropertyValue);
+  max_ = max;
+  value_ = std::min(value_, max_);
+  changed();
+}
+
+void ProgressBar::setValue(double value) {
+  if (value < 0 || value > max_) raise(InvalidPropertyValue);
+  value_ = value;
+  Refresh();
+}
+
+Timer::Timer(Form& form, std::string name, int interval)
+    : Control(form, std::move(name)), interval_(interval) {}
+
+void Timer::userFires() {
+  form().program().handle([this] {
+    if (enabled()) raiseEvent(Fires);
+  });
+}
+
+void Navigator::userPress(Arrow arrow) {
+  form().program().handle([&] {
+    if (!enabled() || !form().enabled()) return;
+    raiseEvent(MouseDown);
+    go(arrow);
+  });
+}
+
+}  // namespace nautrel

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+namespace nautrel {
+
+/// A picture as the look decoded it; the windows only hand it on.
+class PictureData {
+ public:
+  virtual ~PictureData() = default;
+};
+
+/// An empty handle is the empty picture.
+using Picture = std::shared_ptr<const PictureData>;
+
+}  // namespace nautrel

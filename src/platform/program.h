@@ -1,0 +1,82 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "platform/desktop.h"
+#include "platform/errors.h"
+#include "platform/form.h"
+#include "platform/look.h"
+
+namespace nautrel {
+
+/// The run of the program: its windows by number, the edge of its event loop, its end.
+class Program {
+ public:
+  explicit Program(Desktop& desktop);
+  virtual ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  Desktop& desktop() { return desktop_; }
+  /// Without looks the program runs unseen, as in tests.
+  void setLooks(Looks* looks) { looks_ = looks; }
+
+  /// A whole user action: failures that no rule has stopped end the program here, and when the
+  /// outermost action has ended, what it wrote is brought onto the disk and onto the screen.
+  template <class Action>
+  void handle(Action&& action) {
+    if (desktop_.ended()) return;
+    ++depth_;
+    try {
+      action();
+    } catch (const RunTimeError& failure) {
+      desktop_.end(failure);
+    } catch (const ProgramEnd&) {
+    }
+    leave();
+  }
+  bool handling() const { return depth_ > 0; }
+
+  bool loaded(int number) const { return windows_.contains(number); }
+  /// The window of that number if it is loaded; never makes one.
+  Form* ifLoaded(int number) const;
+  /// Unloads the window if it is loaded; its Form_Unload runs as a root.
+  void unload(int number);
+  Form* activeForm() const { return active_; }
+  std::vector<Form*> loadedForms() const;
+
+ protected:
+  /// The window of that number, made and loaded if it is not there.
+  template <class Window>
+  Window& window(int number) {
+    if (auto it = windows_.find(number); it != windows_.end())
+      return static_cast<Window&>(*it->second);
+    auto made = std::make_unique<Window>(static_cast<typename Window::App&>(*this));
+    auto& form = *made;
+    load(number, std::move(made));
+    return form;
+  }
+
+  /// Writes through to the disk; costs nothing when nothing was written.
+  virtual void settle() {}
+  void destroyWindows();
+
+ private:
+  friend class Form;
+  void load(int number, std::unique_ptr<Form> form);
+  void asRoot(const std::function<void()>& procedure);
+  void leave();
+  void settleAtEdge();
+
+  Desktop& desktop_;
+  Looks* looks_ = nullptr;
+  int depth_ = 0;
+  Form* active_ = nullptr;
+  std::map<int, std::unique_ptr<Form>> windows_;
+  std::vector<std::unique_ptr<Form>> unloaded_;
+};
+
+}  // namespace nautrel
