@@ -1,0 +1,11 @@
+#pragma once
+
+namespace nautrel {
+
+class Nautrel;
+
+/// A record window that a search has opened closes: the search comes back as it was, and the list
+/// of found dives goes. Without such a search it does nothing.
+void returnToSearch(Nautrel& app);
+
+}  // namespace nautrel

@@ -1,0 +1,25 @@
+#include "shell/Form1.h"
+
+#include "shell/MDIForm1.h"
+#include "shell/Nautrel.h"
+
+namespace nautrel {
+
+Form1::Form1(Nautrel& app)
+    : Form(app, "Form1", {.caption = "Startup", .width = 8400, .height = 5100}), app_(app) {
+  Timer1.Fires = [this] { Timer1_Timer(); };
+}
+
+void Form1::Form_Load() {
+  const auto screen = desktop().screen();
+  setTop(screen.height / 2 - Height() / 2);
+  setLeft(screen.width / 2 - Width() / 2);
+}
+
+void Form1::Timer1_Timer() {
+  Timer1.setEnabled(false);
+  app_.MDIForm1().Show();
+  Unload();
+}
+
+}  // namespace nautrel

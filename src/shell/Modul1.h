@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/value.h"
+
+namespace nautrel {
+
+class Nautrel;
+
+/// What all windows share. The variables live from start to end and start empty; the two numbers
+/// are fresh only after NummernLesen.
+class Modul1 {
+ public:
+  explicit Modul1(Nautrel& app) : app_(app) {}
+
+  Value ErsteNummer;   // `Nr` of the first row, as stored
+  Value LetzteNummer;  // `Nr` of the last row, as stored
+  bool LogbuchLeer = false;
+  double FortschrittMaximum = 0;
+  bool VonWortsuche = false;
+  bool VonZahlensuche = false;
+  bool VonVollsuche = false;
+  bool ListeNachziehen = false;
+  Value StatistikKnopf;  // "4" to "7"
+  bool EinstellungenOffen = false;
+
+  /// Opens the window chosen for the start; none with an empty logbook.
+  void Startfenster();
+  void LogbuchPruefen();
+  /// On an empty logbook both numbers keep what they held.
+  void NummernLesen();
+  void FortschrittAnzeigen();
+  void FortschrittBeenden();
+  void MenuesFreigeben();
+  void MenuesSperren();
+  void StatusAktualisieren();
+
+ private:
+  Nautrel& app_;
+};
+
+/// The window whose name stands under `Start`/`Window`; 0 for one that is unknown. Exact.
+int startWindow(const std::string& setting);
+
+}  // namespace nautrel

@@ -1,0 +1,58 @@
+#include "shell/Nautrel.h"
+
+#include <filesystem>
+
+#include "dives/Form2.h"
+#include "dives/Form3.h"
+#include "shell/Form1.h"
+#include "shell/MDIForm1.h"
+#include "shell/Modul1.h"
+
+namespace nautrel {
+
+Nautrel::Nautrel(Desktop& desktop)
+    : Program(desktop), modul_(std::make_unique<class Modul1>(*this)) {}
+
+// The windows hold on to the workspace, so they go first.
+Nautrel::~Nautrel() {
+  destroyWindows();
+}
+
+void Nautrel::start() {
+  handle([this] { Form1().Show(); });
+}
+
+class MDIForm1& Nautrel::MDIForm1() {
+  return window<class MDIForm1>(0);
+}
+class Form1& Nautrel::Form1() {
+  return window<class Form1>(1);
+}
+class Form2& Nautrel::Form2() {
+  return window<class Form2>(2);
+}
+class Form3& Nautrel::Form3() {
+  return window<class Form3>(3);
+}
+
+void Nautrel::show(int number) {
+  switch (number) {
+    case 2:
+      return Form2().Show();
+    case 3:
+      return Form3().Show();
+    default:
+      return;
+  }
+}
+
+std::string Nautrel::databasePath() {
+  return besideExecutable("Logbuch.mdb");
+}
+
+std::string Nautrel::besideExecutable(const std::string& fileName) {
+  return desktop().applicationPath() +
+         static_cast<char>(std::filesystem::path::preferred_separator) + fileName;
+}
+
+}  // namespace nautrel

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/program.h"
+#include "store/database.h"
+
+namespace nautrel {
+
+class Form1;
+class Form2;
+class Form3;
+class MDIForm1;
+class Modul1;
+
+/// The program itself: owns the shared state, the main window and all the others, and hands itself
+/// to them. Touching a window that is not loaded loads it.
+class Nautrel : public Program {
+ public:
+  explicit Nautrel(Desktop& desktop);
+  ~Nautrel() override;
+
+  /// Shows the splash, from which all the rest follows.
+  void start();
+
+  class Modul1& Modul1() {
+    return *modul_;
+  }
+  class MDIForm1& MDIForm1();
+  class Form1& Form1();
+  class Form2& Form2();
+  class Form3& Form3();
+
+  /// Loads and shows the child window of that number.
+  void show(int number);
+
+  Workspace& workspace() { return workspace_; }
+  /// The application path and "\Logbuch.mdb", joined by the platform's own separator.
+  std::string databasePath();
+  /// A file delivered beside the executable.
+  std::string besideExecutable(const std::string& fileName);
+
+ private:
+  void settle() override { workspace_.settle(); }
+
+  Workspace workspace_;
+  std::unique_ptr<class Modul1> modul_;
+};
+
+}  // namespace nautrel
