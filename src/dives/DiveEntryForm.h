@@ -1,0 +1,101 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <utility>
+
+#include "platform/controls.h"
+#include "platform/form.h"
+
+namespace nautrel {
+
+class Nautrel;
+
+/// The boxes of one dive and their rules, as the windows that enter and edit dives share them.
+/// Every rule lives in an event of its own box and looks at that box alone.
+class DiveEntryForm : public Form {
+ public:
+  /// Where the near-copies differ in their design.
+  struct Differences {
+    std::string repDive;         // caption of Check7
+    std::size_t pathLength = 0;  // most characters of Text21, 0 for no limit
+    std::string severalInfo;     // captions of the last two pages
+    std::string linkedGraphic;
+  };
+  DiveEntryForm(Nautrel& app, std::string name, Design design, const Differences& differences);
+
+  /// Tests the five required boxes; an empty one is named in a message and leaves "ende" in Text12.
+  void Felder();
+
+  TabStrip SSTab1;
+  TextBox Text1{*this, "Text1", {.text = "1", .maxLength = 4, .locked = true}};
+  TextBox Text2{*this, "Text2", {.maxLength = 20}};
+  TextBox Text3{*this, "Text3", {.maxLength = 20}};
+  TextBox Text4{*this, "Text4", {.maxLength = 20}};
+  TextBox Text5{*this, "Text5", {.maxLength = 2}};
+  TextBox Text6{*this, "Text6", {.maxLength = 2}};
+  TextBox Text7{*this, "Text7", {.maxLength = 4}};
+  TextBox Text8{*this, "Text8", {.maxLength = 20}};
+  TextBox Text9{*this, "Text9", {.maxLength = 3}};
+  TextBox Text10{*this, "Text10", {.maxLength = 4}};
+  TextBox Text11{*this, "Text11", {.multiLine = true}};
+  TextBox Text12{*this, "Text12", {.visible = false}};
+  TextBox Text13{*this, "Text13", {.maxLength = 4}};
+  TextBox Text14{*this, "Text14", {.maxLength = 20}};
+  TextBox Text15{*this, "Text15", {.maxLength = 20}};
+  TextBox Text16{*this, "Text16", {.maxLength = 6}};
+  TextBox Text17{*this, "Text17", {.maxLength = 3}};
+  TextBox Text18{*this, "Text18", {.maxLength = 4}};
+  TextBox Text19{*this, "Text19", {.maxLength = 3}};
+  TextBox Text20{*this, "Text20", {.visible = false}};
+  TextBox Text21;
+  Frame Frame1{*this, "Frame1"};
+  Frame Frame2{*this, "Frame2"};
+  Frame Frame3{*this, "Frame3", "Tank"};
+  Frame Frame5{*this, "Frame5", "View"};
+  OptionButton Option1{*this, "Option1", "Saltwater"};
+  OptionButton Option2{*this, "Option2", "Sweet wat."};
+  OptionButton Option3{*this, "Option3", "from shore"};
+  OptionButton Option4{*this, "Option4", "from boat"};
+  OptionButton Option5{*this, "Option5", "&Aluminum"};
+  OptionButton Option6{*this, "Option6", "&Steel"};
+  OptionButton Option7{*this, "Option7"};
+  OptionButton Option8{*this, "Option8"};
+  OptionButton Option9{*this, "Option9"};
+  CheckBox Check6{*this, "Check6", "de&co-stop"};
+  CheckBox Check7;
+  Image Image4{*this, "Image4"};
+  Button Command1;
+  Button Command5{*this, "Command5", "Browse"};
+  CommonDialog CommonDialog1;
+
+ protected:
+  using TextColumn = std::pair<const char*, TextBox*>;
+  using OptionColumn = std::pair<const char*, OptionButton*>;
+
+  /// The boxes and options by the columns they are stored in; `Nr` and `Grafik` are the windows'
+  /// own matter.
+  std::array<TextColumn, 17> textColumns();
+  std::array<OptionColumn, 9> optionColumns();
+
+  /// After the rule of a box has run, and after a click on an option or on the deco-stop box.
+  virtual void edited() {}
+
+  void placeOnPages();
+
+  Nautrel& app_;
+
+ private:
+  void bindDate();
+  void bindNumbers();
+  void bindMarks();
+  void jumpAbove(const TextBox& box, double limit, TextBox& next);
+  void leaveDatePart(TextBox& box, double last, const char* message);
+  void leaveYear();
+  void keepNotNegative(TextBox& box);
+  void leaveDiveTime();
+  void leaveDepth();
+  void browse();
+};
+
+}  // namespace nautrel

@@ -1,0 +1,132 @@
+#include "dives/Form2.h"
+
+#include "platform/errors.h"
+#include "shell/MDIForm1.h"
+#include "shell/Modul1.h"
+#include "shell/Nautrel.h"
+
+namespace nautrel {
+namespace {
+
+constexpr double kLastButOneNumber = 9998;
+
+}  // namespace
+
+Form2::Form2(Nautrel& app)
+    : DiveEntryForm(app, "Form2", {.caption = "Insert dive", .width = 7200, .height = 6300},
+                    {.repDive = "&Rep.-dive",
+                     .pathLength = 255,
+                     .severalInfo = "Several Info",
+                     .linkedGraphic = "Linked graphic"}) {
+  Command1.setCaption("OK, &next");
+  Command1.setDefault(true);
+  Command3.setCancel();
+  SSTab1.pageHolds(0, {&Check1, &Check2, &Check3, &Check4, &Check5, &Command4});
+  setTabOrder({&Text2,   &Text3,   &Text4,    &Text5,    &Text6,    &Text7,    &Text8,
+               &Text9,   &Text10,  &Check2,   &Check3,   &Check4,   &Command4, &Check1,
+               &Check5,  &Text1,   &Text11,   &Frame1,   &Option1,  &Option2,  &Option3,
+               &Option4, &Check6,  &Check7,   &Text14,   &Text15,   &Text16,   &Text19,
+               &Option5, &Option6, &Text17,   &Text13,   &Text18,   &Option7,  &Option8,
+               &Option9, &Text21,  &Command5, &Command1, &Command2, &Command3, &SSTab1});
+  Command1.Click = [this] { Command1_Click(); };
+  Command2.Click = [this] { Command2_Click(); };
+  Command3.Click = [this] { Command3_Click(); };
+  Command4.Click = [this] { Command4_Click(); };
+}
+
+void Form2::edited() {
+  Text20.setText("geändert");
+}
+
+void Form2::Form_Load() {
+  Hourglass wait(app_.MDIForm1());
+  placeInFrame(*this, app_.MDIForm1());
+  auto rows = app_.workspace().OpenDatabase(app_.databasePath()).OpenRecordset("Logbuch", {"Nr"});
+  resumeNext([&] { rows.MoveLast(); });
+  resumeNext([&] { Text1.setText(text(rows.Fields("Nr").number(locale()) + 1)); });
+  resumeNext([&] { app_.Modul1().LogbuchPruefen(); });
+  if (app_.Modul1().LogbuchLeer) return;
+  if (!trueOrFails([&] { return rows.Fields("Nr").number(locale()) > kLastButOneNumber; })) return;
+  MsgBox(
+      "The last dive number is over 9998. You could not enter more than 9999 dives. "
+      "Please select 'Sort logbook' and enter a lower start number. ");
+  Unload();
+}
+
+void Form2::Speichern() {
+  auto rows = app_.workspace().OpenDatabase(app_.databasePath()).OpenRecordset("Logbuch");
+  rows.AddNew();
+  rows.setField("Nr", Text1.text());
+  for (const auto& [column, box] : textColumns()) rows.setField(column, box->text());
+  for (const auto& [column, option] : optionColumns())
+    if (option->on()) rows.setField(column, true);
+  if (Check6.on()) rows.setField("Deco", true);
+  if (Check7.on()) rows.setField("Rep", true);
+  rows.setField("Grafik", Text21.text());
+  rows.Update();
+  rows.Close();
+  app_.Modul1().StatusAktualisieren();
+}
+
+void Form2::Command1_Click() {
+  Text12.setText("");
+  Felder();
+  if (Text12.text() != "ende") {
+    Speichern();
+    if (number(Text1.text()) > kLastButOneNumber) {
+      MsgBox(
+          "You could not insert more than 9999 dives. Please select 'Sort logbook' and enter a "
+          "lower start number. This dive will be saved.");
+      Text20.setText("");
+      return Unload();
+    }
+    prepareNextDive();
+  }
+  Text20.setText("");
+}
+
+// What is not named here goes on to the next dive on purpose: options, tank, weather, suit, weight
+// and the picture on show.
+void Form2::prepareNextDive() {
+  Text1.setText(text(number(Text1.text()) + 1));
+  for (auto* box : {&Text9, &Text10, &Text11, &Text21}) box->setText("");
+  if (!Check2.on()) Text2.setText("");
+  if (!Check3.on()) Text3.setText("");
+  if (!Check4.on()) Text4.setText("");
+  if (!Check5.on()) Text8.setText("");
+  if (!Check1.on())
+    for (auto* box : {&Text5, &Text6, &Text7}) box->setText("");
+}
+
+// With a required box empty the window closes all the same and the input is dropped.
+void Form2::Command2_Click() {
+  Text12.setText("");
+  Felder();
+  if (Text12.text() != "ende") {
+    Speichern();
+    Text20.setText("");
+  }
+  Unload();
+}
+
+void Form2::Command3_Click() {
+  Unload();
+}
+
+// The focus walks through the boxes so that their own rules pad day and month.
+void Form2::Command4_Click() {
+  for (auto* box : {&Text5, &Text6, &Text7}) box->setText("");
+  const auto today = desktop().now();
+  Text5.setText(text(today.day));
+  Text6.setText(text(today.month));
+  Text7.setText(text(today.year));
+  for (auto* box : {&Text5, &Text6, &Text7, &Text8}) box->SetFocus();
+}
+
+void Form2::Form_Unload() {
+  auto& shared = app_.Modul1();
+  shared.LogbuchPruefen();
+  if (!shared.LogbuchLeer) shared.MenuesFreigeben();
+}
+
+}  // namespace nautrel
