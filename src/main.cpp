@@ -1,0 +1,5 @@
+#include "platform/qt/application.h"
+
+int main(int argc, char** argv) {
+  return nautrel::runApplication(argc, argv);
+}

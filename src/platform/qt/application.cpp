@@ -1,0 +1,56 @@
+#include "platform/qt/application.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/icons.h"
+#include "platform/qt/message_box.h"
+#include "platform/qt/qt_desktop.h"
+#include "platform/qt/qt_looks.h"
+#include "shell/Nautrel.h"
+
+// A static library's pictures come in only if they are asked for, and only from outside of any
+// namespace.
+static void loadPictures() {
+  Q_INIT_RESOURCE(assets);
+}
+
+namespace nautrel {
+namespace {
+
+constexpr int kStatusAfterFailure = 3;
+constexpr int kCritical = 16;
+
+int showFailure(const RunTimeError& failure) {
+  while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+  showMessageBox(
+      nullptr,
+      QStringLiteral("Run-time error '%1':\n\n%2").arg(failure.number).arg(toQt(failure.text)),
+      kCritical, QString::fromUtf8(kApplicationTitle));
+  return kStatusAfterFailure;
+}
+
+}  // namespace
+
+int runApplication(int argc, char** argv) {
+  QApplication::setApplicationName(QString::fromUtf8(kApplicationTitle));
+  QApplication::setApplicationDisplayName(QString());
+  QApplication application(argc, argv);
+  loadPictures();
+  QApplication::setWindowIcon(namedIcon("nautrel"));
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  QtDesktop desktop;
+  Nautrel nautrel(desktop);
+  QtLooks looks(nautrel);
+  desktop.setLooks(&looks);
+  nautrel.setLooks(&looks);
+
+  nautrel.start();
+  const int status = desktop.ended() ? 0 : QApplication::exec();
+  if (desktop.failure()) return showFailure(*desktop.failure());
+  return status;
+}
+
+}  // namespace nautrel

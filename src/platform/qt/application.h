@@ -1,0 +1,9 @@
+#pragma once
+
+namespace nautrel {
+
+/// Runs the program in its event loop. Returns the process's status: 3 after a run-time failure,
+/// whose message has been shown by then.
+int runApplication(int argc, char** argv);
+
+}  // namespace nautrel

@@ -1,0 +1,138 @@
+#include "platform/qt/child_window.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/forms.h"
+#include "platform/qt/icons.h"
+#include "platform/qt/main_frame.h"
+#include "platform/qt/qt_looks.h"
+
+namespace nautrel {
+
+/// Reports to the form what the user does to its frame.
+class SubWindow : public QMdiSubWindow {
+ public:
+  SubWindow(Form& form, bool sizable) : form_(&form) {
+    setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
+                   (sizable ? Qt::WindowMaximizeButtonHint : Qt::WindowType(0)));
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setWindowIcon(namedIcon("nautrel"));
+    connect(this, &QMdiSubWindow::windowStateChanged, this,
+            [this](Qt::WindowStates, Qt::WindowStates now) { stateChanged(now); });
+  }
+
+  void release() { form_ = nullptr; }
+  bool following = false;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();
+    if (form_ != nullptr) form_->userClose();
+  }
+  void moveEvent(QMoveEvent* event) override {
+    QMdiSubWindow::moveEvent(event);
+    report();
+  }
+  void resizeEvent(QResizeEvent* event) override {
+    QMdiSubWindow::resizeEvent(event);
+    report();
+  }
+
+ private:
+  void report() {
+    if (form_ == nullptr || following || isMinimized() || !form_->visible()) return;
+    form_->userResized(toTwips(x()), toTwips(y()), toTwips(width()), toTwips(height()));
+  }
+  void stateChanged(Qt::WindowStates now) {
+    if (form_ == nullptr || following) return;
+    form_->userState(now & Qt::WindowMinimized   ? WindowState::Minimized
+                     : now & Qt::WindowMaximized ? WindowState::Maximized
+                                                 : WindowState::Normal);
+  }
+
+  Form* form_;
+};
+
+ChildWindow::ChildWindow(QtLooks& looks, Form& form) : FormView(looks, form) {
+  const bool sizable = isSizable(form.name());
+  window_ = new SubWindow(form, sizable);
+  window_->setWidget(makeContent(form.name()));
+  if (auto* frame = looks.mainFrame()) frame->area().addSubWindow(window_, window_->windowFlags());
+  bindControls();
+  flush();
+  const QSize size = window_->sizeHint();
+  window_->following = true;
+  if (sizable)
+    window_->resize(size);
+  else
+    window_->setFixedSize(size);
+  window_->following = false;
+  form.setWidth(toTwips(size.width()));
+  form.setHeight(toTwips(size.height()));
+}
+
+ChildWindow::~ChildWindow() {
+  close();
+}
+
+QWidget* ChildWindow::root() const {
+  return window_;
+}
+
+void ChildWindow::show() {
+  if (!window_) return;
+  flush();
+  window_->following = true;
+  window_->show();
+  window_->following = false;
+  startTimers();
+  formChanged();
+}
+
+void ChildWindow::activate() {
+  if (!window_ || window_->mdiArea() == nullptr || !form().visible()) return;
+  window_->mdiArea()->setActiveSubWindow(window_);
+  window_->raise();
+}
+
+void ChildWindow::close() {
+  if (!window_) return;
+  releaseBindings();
+  window_->release();
+  window_->hide();
+  if (auto* area = window_->mdiArea()) area->removeSubWindow(window_);
+  window_->deleteLater();
+  window_ = nullptr;
+}
+
+void ChildWindow::pushForm() {
+  if (!window_) return;
+  const auto& model = form();
+  window_->following = true;
+  if (const auto title = toQt(model.caption()); window_->windowTitle() != title)
+    window_->setWindowTitle(title);
+  if (auto* content = window_->widget(); content->isEnabled() != model.enabled())
+    content->setEnabled(model.enabled());
+  if (model.windowState() == WindowState::Normal) {
+    const QSize size(toPixels(model.Width()), toPixels(model.Height()));
+    if (window_->size() != size && !window_->isMinimized()) window_->resize(size);
+    const QPoint place(toPixels(model.Left()), toPixels(model.Top()));
+    if (window_->pos() != place && !window_->isMinimized()) window_->move(place);
+  }
+  pushState();
+  window_->following = false;
+}
+
+void ChildWindow::pushState() {
+  if (!form().visible()) return;
+  const bool small = form().windowState() == WindowState::Minimized;
+  if (small == window_->isMinimized()) return;
+  if (small) return window_->showMinimized();
+  window_->showNormal();
+  activate();
+}
+
+}  // namespace nautrel

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/form.h"
+#include "platform/look.h"
+#include "platform/qt/binding.h"
+
+class QTimer;
+class QWidget;
+
+namespace nautrel {
+
+class QtLooks;
+
+/// What the looks of all windows have in common: the bindings of the controls and the news that
+/// wait to be shown.
+class FormView : public FormLook {
+ public:
+  FormView(QtLooks& looks, Form& form);
+  ~FormView() override;
+
+  void controlChanged(Control& control) override;
+  void formChanged() override;
+  void refresh(Control& control) override;
+
+  Form& form() const { return form_; }
+  const std::vector<std::unique_ptr<Binding>>& bindings() const { return bindings_; }
+  Binding* bindingOf(const Control& control) const;
+  /// The binding whose widget is `widget` or holds it.
+  Binding* bindingAround(const QWidget* widget) const;
+
+  /// Brings all news onto the screen.
+  void flush();
+  /// Forces the changed widgets to paint at once, within a running handler.
+  void repaintNow();
+
+  virtual QWidget* root() const = 0;
+
+ protected:
+  void bindControls();
+  void releaseBindings();
+  /// Lets the form's timers run from now on.
+  void startTimers();
+  virtual void pushForm() = 0;
+
+ private:
+  void news();
+  void pushFocus();
+
+  QtLooks& looks_;
+  Form& form_;
+  std::vector<std::unique_ptr<Binding>> bindings_;
+  std::vector<QTimer*> timers_;
+  bool formDirty_ = true;
+};
+
+}  // namespace nautrel

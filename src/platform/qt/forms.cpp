@@ -1,0 +1,37 @@
+#include "platform/qt/forms.h"
+
+#include <utility>
+
+#include "ui_Form2.h"
+#include "ui_Form3.h"
+
+namespace nautrel {
+namespace {
+
+template <class Ui>
+QWidget* build() {
+  auto* content = new QWidget;
+  Ui ui;
+  ui.setupUi(content);
+  return content;
+}
+
+using Builder = QWidget* (*)();
+constexpr std::pair<std::string_view, Builder> kForms[] = {
+    {"Form2", build<Ui::Form2>},
+    {"Form3", build<Ui::Form3>},
+};
+
+}  // namespace
+
+QWidget* makeContent(std::string_view form) {
+  for (const auto& [name, make] : kForms)
+    if (name == form) return make();
+  return new QWidget;
+}
+
+bool isSizable(std::string_view form) {
+  return form == "Form13";
+}
+
+}  // namespace nautrel

@@ -1,0 +1,273 @@
+#include "platform/qt/main_frame.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QPainter>
+#include <QProgressBar>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "platform/program.h"
+#include "platform/qt/child_window.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/icons.h"
+#include "platform/qt/image_picture.h"
+#include "platform/qt/qt_looks.h"
+#include "platform/qt/status_panels.h"
+#include "shell/MDIForm1.h"
+
+namespace nautrel {
+namespace {
+
+constexpr int kRightButton = 2;
+
+/// The keys of the toolbar are words of the system; the icons' files keep to ASCII.
+QString iconName(const std::string& key) {
+  return toQt(key)
+      .replace(QStringLiteral("ä"), QStringLiteral("ae"))
+      .replace(QStringLiteral("ö"), QStringLiteral("oe"))
+      .replace(QStringLiteral("ü"), QStringLiteral("ue"));
+}
+
+/// Reports to the model what the user does to the main window's frame.
+class FrameWindow : public QMainWindow {
+ public:
+  explicit FrameWindow(MDIForm1& form) : form_(&form) {}
+  void release() { form_ = nullptr; }
+  bool following = false;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();
+    if (form_ != nullptr) form_->program().desktop().end();
+  }
+  void moveEvent(QMoveEvent* event) override {
+    QMainWindow::moveEvent(event);
+    report();
+  }
+  void resizeEvent(QResizeEvent* event) override {
+    QMainWindow::resizeEvent(event);
+    report();
+  }
+  void changeEvent(QEvent* event) override {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || form_ == nullptr || following) return;
+    form_->userState(isMinimized()   ? WindowState::Minimized
+                     : isMaximized() ? WindowState::Maximized
+                                     : WindowState::Normal);
+    report();
+  }
+
+ private:
+  void report() {
+    if (form_ == nullptr || following || isMinimized() || !isVisible()) return;
+    const QRect outer = frameGeometry();
+    form_->userResized(toTwips(outer.x()), toTwips(outer.y()), toTwips(outer.width()),
+                       toTwips(outer.height()));
+  }
+
+  MDIForm1* form_;
+};
+
+}  // namespace
+
+void Ground::setGround(const QColor& color, const Picture& picture) {
+  if (color_ == color && picture_ == picture) return;
+  color_ = color;
+  picture_ = picture;
+  viewport()->update();
+}
+
+// The picture covers the ground; what of it does not fit is cut at the sides.
+void Ground::paintEvent(QPaintEvent*) {
+  QPainter painter(viewport());
+  painter.fillRect(viewport()->rect(), color_);
+  const auto* image = imageOf(picture_);
+  if (image == nullptr) return;
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  QSizeF size = image->size();
+  size.scale(viewport()->size(), Qt::KeepAspectRatioByExpanding);
+  QRectF target(QPointF(), size);
+  target.moveCenter(QRectF(viewport()->rect()).center());
+  painter.drawImage(target, *image);
+}
+
+void Ground::mouseReleaseEvent(QMouseEvent* event) {
+  QMdiArea::mouseReleaseEvent(event);
+  if (event->button() == Qt::RightButton) form_.MDIForm_MouseUp(kRightButton);
+}
+
+MainFrame::MainFrame(QtLooks& looks, MDIForm1& form)
+    : FormView(looks, form), form_(form), window_(new FrameWindow(form)), area_(new Ground(form)) {
+  window_->setObjectName(QStringLiteral("MDIForm1"));
+  window_->setWindowIcon(namedIcon("nautrel"));
+  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setAccessibleName(QStringLiteral("Windows of the logbook"));
+  window_->setCentralWidget(area_);
+  makeMenus();
+  makeToolbar();
+  makeStatus();
+  bindControls();
+  placeWindow();
+  form_.cascade = [this] { area_->cascadeSubWindows(); };
+  QObject::connect(area_, &QMdiArea::subWindowActivated, area_, [&looks](QMdiSubWindow* window) {
+    if (auto* view = window != nullptr ? looks.viewAround(window) : nullptr)
+      view->form().userActivated();
+  });
+}
+
+MainFrame::~MainFrame() {
+  close();
+}
+
+QWidget* MainFrame::root() const {
+  return window_;
+}
+
+void MainFrame::makeMenus() {
+  for (auto* model : form_.menus()) {
+    auto* menu = new QMenu(toQt(model->caption()), window_);
+    menus_[model] = menu;
+    for (auto* item : model->items()) {
+      if (item == nullptr) {
+        menu->addSeparator();
+        continue;
+      }
+      auto* action = menu->addAction(toQt(item->caption()));
+      if (!item->shortcut().empty()) action->setShortcut(QKeySequence(toQt(item->shortcut())));
+      QObject::connect(action, &QAction::triggered, area_, [item] { item->userClick(); });
+      actions_[item] = action;
+    }
+    if (model->visible()) window_->menuBar()->addMenu(menu);
+  }
+}
+
+void MainFrame::makeToolbar() {
+  auto* bar = window_->addToolBar(QStringLiteral("Commands"));
+  bar->setObjectName(QStringLiteral("Toolbar1"));
+  bar->setMovable(false);
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);
+  bar->setIconSize({24, 24});
+  for (const auto& button : form_.Toolbar1.buttons()) {
+    if (button.key.empty()) {
+      buttons_.append(buttons_.isEmpty() ? nullptr : bar->addSeparator());
+      continue;
+    }
+    auto* action = bar->addAction(namedIcon(fromQt(iconName(button.key))), toQt(button.toolTip));
+    QObject::connect(action, &QAction::triggered, area_,
+                     [this, key = button.key] { form_.Toolbar1.userClick(key); });
+    buttons_.append(action);
+  }
+}
+
+void MainFrame::makeStatus() {
+  auto* strip = new QWidget;
+  strip->setObjectName(QStringLiteral("Picture1"));
+  auto* row = new QHBoxLayout(strip);
+  row->setContentsMargins(6, 3, 6, 3);
+  auto* progress = new QProgressBar(strip);
+  progress->setObjectName(QStringLiteral("ProgressBar1"));
+  progress->setAccessibleName(QStringLiteral("Progress"));
+  progress->setTextVisible(false);
+  row->addWidget(progress);
+  panels_ = new StatusPanels(form_.StatusBar1);
+  panels_->setObjectName(QStringLiteral("StatusBar1"));
+  bottom_ = new QStackedWidget;
+  bottom_->addWidget(panels_);
+  bottom_->addWidget(strip);
+  window_->statusBar()->setSizeGripEnabled(false);
+  window_->statusBar()->addWidget(bottom_, 1);
+}
+
+// The size that it has when it is not maximized: large enough for every child, inside the screen.
+void MainFrame::placeWindow() {
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  const QSize size = QSize(1024, 768).boundedTo(screen.size());
+  form_.setWidth(toTwips(size.width()));
+  form_.setHeight(toTwips(size.height()));
+  form_.setLeft(toTwips(screen.x() + (screen.width() - size.width()) / 2));
+  form_.setTop(toTwips(screen.y() + (screen.height() - size.height()) / 2));
+}
+
+QMenu& MainFrame::menu(const Menu& menu) const {
+  return *menus_.value(&menu);
+}
+
+bool MainFrame::isShortcut(const QKeySequence& keys) const {
+  for (auto* action : actions_)
+    if (action->shortcut() == keys) return true;
+  return false;
+}
+
+void MainFrame::controlChanged(Control& control) {
+  commandsDirty_ = true;
+  FormView::controlChanged(control);
+  formChanged();
+}
+
+void MainFrame::show() {
+  auto& frame = static_cast<FrameWindow&>(*window_);
+  formChanged();
+  flush();
+  frame.following = true;
+  if (form_.windowState() == WindowState::Maximized)
+    window_->showMaximized();
+  else
+    window_->show();
+  frame.following = false;
+  const QRect outer = window_->frameGeometry();
+  form_.userResized(toTwips(outer.x()), toTwips(outer.y()), toTwips(outer.width()),
+                    toTwips(outer.height()));
+}
+
+void MainFrame::activate() {}
+
+void MainFrame::close() {
+  if (!window_) return;
+  releaseBindings();
+  form_.cascade = nullptr;
+  static_cast<FrameWindow&>(*window_).release();
+  area_->disconnect();
+  window_->hide();
+  window_->deleteLater();
+  window_ = nullptr;
+}
+
+void MainFrame::pushCommands() {
+  for (auto it = actions_.begin(); it != actions_.end(); ++it)
+    it.value()->setEnabled(it.key()->enabled());
+  const auto& buttons = form_.Toolbar1.buttons();
+  for (qsizetype i = 0; i < buttons_.size(); ++i)
+    if (buttons_[i] != nullptr && !buttons[static_cast<std::size_t>(i)].key.empty())
+      buttons_[i]->setEnabled(buttons[static_cast<std::size_t>(i)].enabled);
+}
+
+void MainFrame::pushForm() {
+  if (!window_) return;
+  auto& frame = static_cast<FrameWindow&>(*window_);
+  if (std::exchange(commandsDirty_, false)) pushCommands();
+  window_->setWindowTitle(toQt(form_.caption()));
+  panels_->setText(toQt(form_.StatusBar1.panelText(3)));
+  bottom_->setCurrentIndex(form_.Picture1.visible() ? 1 : 0);
+  area_->setGround(toQt(form_.BackColor()), form_.picture());
+  if (const bool wait = form_.MousePointer() == 11; wait != hourglass_) {
+    hourglass_ = wait;
+    wait ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
+  }
+  if (form_.windowState() != WindowState::Normal || window_->isMaximized()) return;
+  const QSize chrome = window_->frameGeometry().size() - window_->size();
+  const QSize size = QSize(toPixels(form_.Width()), toPixels(form_.Height())) - chrome;
+  frame.following = true;
+  if (window_->size() != size) window_->resize(size);
+  const QPoint place(toPixels(form_.Left()), toPixels(form_.Top()));
+  if (window_->pos() != place) window_->move(place);
+  frame.following = false;
+}
+
+}  // namespace nautrel

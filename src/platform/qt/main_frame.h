@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QMap>
+#include <QMdiArea>
+#include <QPointer>
+
+#include "platform/qt/form_view.h"
+
+class QAction;
+class QMenu;
+class QStackedWidget;
+
+namespace nautrel {
+
+class MDIForm1;
+class Menu;
+class StatusPanels;
+
+/// The child windows' ground: the diver's colour and picture, and his context menu.
+class Ground : public QMdiArea {
+ public:
+  explicit Ground(MDIForm1& form) : form_(form) {}
+  void setGround(const QColor& color, const Picture& picture);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  MDIForm1& form_;
+  QColor color_;
+  Picture picture_;
+};
+
+/// The main window: menu bar, toolbar, status bar and progress strip, made from the model's own
+/// tables.
+class MainFrame : public FormView {
+ public:
+  MainFrame(QtLooks& looks, MDIForm1& form);
+  ~MainFrame() override;
+
+  void show() override;
+  void activate() override;
+  void close() override;
+  QWidget* root() const override;
+  void controlChanged(Control& control) override;
+
+  QMdiArea& area() const { return *area_; }
+  QMainWindow& window() const { return *window_; }
+  QMenu& menu(const Menu& menu) const;
+  /// Whether a key belongs to a command of the menu bar.
+  bool isShortcut(const QKeySequence& keys) const;
+
+ protected:
+  void pushForm() override;
+
+ private:
+  void makeMenus();
+  void makeToolbar();
+  void makeStatus();
+  void placeWindow();
+  void pushCommands();
+
+  MDIForm1& form_;
+  QPointer<QMainWindow> window_;
+  Ground* area_ = nullptr;
+  StatusPanels* panels_ = nullptr;
+  QStackedWidget* bottom_ = nullptr;
+  QMap<const Control*, QAction*> actions_;
+  QMap<const Menu*, QMenu*> menus_;
+  QList<QAction*> buttons_;
+  bool hourglass_ = false;
+  bool commandsDirty_ = true;
+};
+
+}  // namespace nautrel

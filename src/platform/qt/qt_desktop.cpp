@@ -1,0 +1,161 @@
+#include "platform/qt/qt_desktop.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QColorDialog>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QImageReader>
+#include <QInputDialog>
+#include <QLocale>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QUrl>
+
+#include "platform/form.h"
+#include "platform/frame.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/form_view.h"
+#include "platform/qt/image_picture.h"
+#include "platform/qt/main_frame.h"
+#include "platform/qt/message_box.h"
+#include "platform/qt/printing.h"
+#include "platform/qt/qt_looks.h"
+
+namespace nautrel {
+namespace {
+
+constexpr int kAskBeforeOverwriting = 2;
+
+Locale systemLocale() {
+  const QLocale system;
+  Locale locale;
+  locale.decimal = fromQt(system.decimalPoint());
+  locale.grouping = fromQt(system.groupSeparator());
+  locale.shortDate = fromQt(system.dateFormat(QLocale::ShortFormat));
+  auto time = system.timeFormat(QLocale::LongFormat);
+  time.remove(QRegularExpression(QStringLiteral("\\s*\\(?t+\\)?")));
+  time.replace(QRegularExpression(QStringLiteral("[aA][pP]")), QStringLiteral("AP"));
+  locale.longTime = fromQt(time.trimmed());
+  return locale;
+}
+
+/// "Text (*.a; *.b)|*.a;*.b" as the toolkit's dialogs write it: "Text (*.a *.b)".
+QString nameFilter(const std::string& filter) {
+  const auto parts = toQt(filter).split('|');
+  if (parts.size() < 2) return {};
+  const auto name = parts[0].section(QStringLiteral(" ("), 0, 0);
+  auto patterns = parts[1];
+  return name + QStringLiteral(" (") + patterns.replace(';', ' ') + ')';
+}
+
+}  // namespace
+
+QtDesktop::QtDesktop()
+    : locale_(systemLocale()),
+      settings_(QSettings::NativeFormat, QSettings::UserScope,
+                QString::fromUtf8(kApplicationTitle)) {}
+
+QWidget* QtDesktop::parentWindow() const {
+  if (auto* modal = QApplication::activeModalWidget()) return modal;
+  return looks_ != nullptr && looks_->mainFrame() != nullptr ? &looks_->mainFrame()->window()
+                                                             : nullptr;
+}
+
+int QtDesktop::showMessage(const std::string& prompt, int style, const std::string& title) {
+  return showMessageBox(parentWindow(), toQt(prompt), style, toQt(title));
+}
+
+std::string QtDesktop::askText(const std::string& prompt, const std::string& title) {
+  QInputDialog dialog(parentWindow());
+  dialog.setWindowTitle(toQt(title));
+  dialog.setLabelText(toQt(prompt));
+  return dialog.exec() == QDialog::Accepted ? fromQt(dialog.textValue()) : std::string{};
+}
+
+std::optional<std::string> QtDesktop::askFileToOpen(const DialogRequest& request) {
+  const auto file = QFileDialog::getOpenFileName(parentWindow(), toQt(request.title), {},
+                                                 nameFilter(request.filter));
+  if (file.isEmpty()) return {};
+  return fromQt(QDir::toNativeSeparators(file));
+}
+
+std::optional<std::string> QtDesktop::askFileToSave(const DialogRequest& request) {
+  const auto options = (request.flags & kAskBeforeOverwriting) != 0
+                           ? QFileDialog::Options()
+                           : QFileDialog::Options(QFileDialog::DontConfirmOverwrite);
+  const auto file =
+      QFileDialog::getSaveFileName(parentWindow(), toQt(request.title), toQt(request.fileName),
+                                   nameFilter(request.filter), nullptr, options);
+  if (file.isEmpty()) return {};
+  return fromQt(QDir::toNativeSeparators(file));
+}
+
+std::optional<long> QtDesktop::askColor(long color) {
+  const auto chosen = QColorDialog::getColor(toQt(color), parentWindow());
+  if (!chosen.isValid()) return {};
+  return fromQt(chosen);
+}
+
+bool QtDesktop::askPrinter() {
+  return setUpPrinterDialog(parentWindow());
+}
+
+// A value edited by hand may hold a comma, which the store reads as a list.
+std::string QtDesktop::readSetting(const std::string& section, const std::string& key) {
+  const auto value = settings_.value(toQt(section + "/" + key));
+  if (value.typeId() == QMetaType::QStringList)
+    return fromQt(value.toStringList().join(QStringLiteral(", ")));
+  return fromQt(value.toString());
+}
+
+void QtDesktop::writeSetting(const std::string& section, const std::string& key,
+                             const std::string& value) {
+  settings_.setValue(toQt(section + "/" + key), toQt(value));
+  settings_.sync();
+}
+
+DateTime QtDesktop::currentTime() {
+  const auto now = QDateTime::currentDateTime();
+  return {now.date().year(), now.date().month(),  now.date().day(),
+          now.time().hour(), now.time().minute(), now.time().second()};
+}
+
+Picture QtDesktop::readPicture(const std::string& path) {
+  if (!QFileInfo::exists(toQt(path))) raise(FileNotFound);
+  auto image = QImageReader(toQt(path)).read();
+  if (image.isNull()) raise(InvalidPicture);
+  return std::make_shared<ImagePicture>(std::move(image));
+}
+
+void QtDesktop::open(const std::string& path) {
+  QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(path)));
+}
+
+void QtDesktop::popup(Menu& menu, const Form* form, double left, double top) {
+  if (looks_ == nullptr || looks_->mainFrame() == nullptr) return;
+  auto place = QCursor::pos();
+  if (form != nullptr)
+    if (auto* view = looks_->viewOf(*form); view != nullptr && view->root() != nullptr)
+      place = view->root()->mapToGlobal(QPoint(toPixels(left), toPixels(top)));
+  looks_->mainFrame()->menu(menu).exec(place);
+}
+
+std::string QtDesktop::executableFolder() {
+  return fromQt(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()));
+}
+
+ScreenSize QtDesktop::screenSize() {
+  const auto size = QGuiApplication::primaryScreen()->availableGeometry().size();
+  return {toTwips(size.width()), toTwips(size.height())};
+}
+
+void QtDesktop::endLoop(const std::optional<RunTimeError>& failure) {
+  failure_ = failure;
+  QCoreApplication::exit(failure ? 3 : 0);
+}
+
+}  // namespace nautrel

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QSettings>
+#include <optional>
+
+#include "platform/desktop.h"
+
+namespace nautrel {
+
+class QtLooks;
+
+/// The real desktop behind the door.
+class QtDesktop : public Desktop {
+ public:
+  QtDesktop();
+  void setLooks(QtLooks* looks) { looks_ = looks; }
+
+  /// The failure that ended the program, to be shown after the loop.
+  const std::optional<RunTimeError>& failure() const { return failure_; }
+
+ protected:
+  int showMessage(const std::string& prompt, int style, const std::string& title) override;
+  std::string askText(const std::string& prompt, const std::string& title) override;
+  std::optional<std::string> askFileToOpen(const DialogRequest& request) override;
+  std::optional<std::string> askFileToSave(const DialogRequest& request) override;
+  std::optional<long> askColor(long color) override;
+  bool askPrinter() override;
+  std::string readSetting(const std::string& section, const std::string& key) override;
+  void writeSetting(const std::string& section, const std::string& key,
+                    const std::string& value) override;
+  DateTime currentTime() override;
+  const Locale& currentLocale() override { return locale_; }
+  Picture readPicture(const std::string& path) override;
+  void run(const ReportJob& job) override;
+  void open(const std::string& path) override;
+  void copy(const Chart& chart) override;
+  void popup(Menu& menu, const Form* form, double left, double top) override;
+  void print(const std::string& text) override;
+  std::string executableFolder() override;
+  ScreenSize screenSize() override;
+  void endLoop(const std::optional<RunTimeError>& failure) override;
+
+ private:
+  QWidget* parentWindow() const;
+
+  QtLooks* looks_ = nullptr;
+  Locale locale_;
+  QSettings settings_;
+  std::optional<RunTimeError> failure_;
+};
+
+}  // namespace nautrel

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <vector>
+
+#include "platform/look.h"
+
+namespace nautrel {
+
+class FormView;
+class MainFrame;
+class Program;
+
+/// Makes the looks of the forms, and keeps screen and models in step.
+class QtLooks : public QObject, public Looks {
+ public:
+  explicit QtLooks(Program& program);
+  ~QtLooks() override;
+
+  std::unique_ptr<FormLook> make(Form& form) override;
+  void flush() override;
+  void flushSoon();
+  /// Repaints what is new, at most every 40 ms while a handler runs.
+  void repaintIfDue();
+
+  MainFrame* mainFrame() const { return frame_; }
+  FormView* viewOf(const Form& form) const;
+  /// The view whose window holds the widget.
+  FormView* viewAround(const QWidget* widget) const;
+
+  void add(FormView& view);
+  void remove(FormView& view);
+
+ private:
+  void focusMoved(QWidget* now);
+
+  Program& program_;
+  MainFrame* frame_ = nullptr;
+  std::vector<FormView*> views_;
+  QElapsedTimer sinceRepaint_;
+  bool flushing_ = false;
+  bool waiting_ = false;
+};
+
+}  // namespace nautrel
