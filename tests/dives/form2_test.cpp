@@ -1,0 +1,185 @@
+#include "dives/Form2.h"
+
+#include "support/logbook.h"
+
+namespace nautrel {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class InsertDive : public LogbookTest {
+ protected:
+  Form2& open() {
+    start();
+    click(app->MDIForm1().Menü2a);
+    return app->Form2();
+  }
+  static void fill(Form2& form) {
+    type(form.Text2, "Egypt");
+    type(form.Text3, "Hurghada");
+    type(form.Text4, "Giftun");
+    type(form.Text5, "05");
+    type(form.Text6, "03");
+    type(form.Text7, "2001");
+    type(form.Text8, "Anna");
+    type(form.Text9, "45");
+    type(form.Text10, "60");
+  }
+};
+
+TEST_F(InsertDive, AnEmptyLogbookComesToLifeWhenTheWindowCloses) {
+  auto& form = open();
+  EXPECT_EQ(form.Text1.text(), "1");
+  EXPECT_EQ(form.activeControl(), &form.Text2);
+  fill(form);
+  press(form, Key::Enter);
+  EXPECT_EQ(form.Text1.text(), "2");
+  EXPECT_EQ(status(), "<Logbuch.mdb> Dives Logged: 1 (1 to 1)");
+  EXPECT_FALSE(app->MDIForm1().Menü3a.enabled());
+  press(form, Key::Escape);
+  EXPECT_FALSE(app->loaded(2));
+  EXPECT_TRUE(app->MDIForm1().Menü3a.enabled());
+  EXPECT_TRUE(app->MDIForm1().Toolbar1.buttonEnabled(20));
+  EXPECT_EQ(rows("Logbuch", {"Nr", "Land", "Ort", "Platz", "Tag", "Monat", "Jahr", "Zeit", "Tiefe",
+                             "Buddy", "Lang", "Salz", "Grafik"}),
+            (std::vector<Texts>{{"1", "Egypt", "Hurghada", "Giftun", "05", "03", "2001", "45", "60",
+                                 "Anna", "", "No", ""}}));
+}
+
+TEST_F(InsertDive, EveryBoxAndFlagReachesItsColumn) {
+  auto& form = open();
+  fill(form);
+  choose(form.SSTab1, 1);
+  type(form.Text11, "Großer Hai");
+  choose(form.SSTab1, 2);
+  for (auto* option : {&form.Option1, &form.Option4, &form.Option5, &form.Option9}) click(*option);
+  click(form.Check6);
+  click(form.Check7);
+  type(form.Text17, "80");
+  type(form.Text13, "3000");
+  type(form.Text18, "500");
+  type(form.Text14, "sunny");
+  type(form.Text15, "wet");
+  type(form.Text16, "0");
+  type(form.Text19, "12");
+  choose(form.SSTab1, 3);
+  type(form.Text21, "hai.jpg");
+  click(form.Command2);
+  EXPECT_FALSE(app->loaded(2));
+  EXPECT_EQ(rows("Logbuch",
+                 {"Lang", "Liter", "Bars", "Bare", "Wetter", "Anzug", "Höhe", "Blei", "Grafik"}),
+            (std::vector<Texts>{
+                {"Großer Hai", "80", "3000", "500", "sunny", "wet", "0", "12", "hai.jpg"}}));
+  EXPECT_EQ(rows("Logbuch", {"Salz", "Süß", "Ufer", "Boot", "Alu", "Stahl", "Sichtg", "Sichtm",
+                             "Sichts", "Deco", "Rep"}),
+            (std::vector<Texts>{
+                {"Yes", "No", "No", "Yes", "Yes", "No", "No", "No", "Yes", "Yes", "Yes"}}));
+}
+
+TEST_F(InsertDive, TheNextDiveKeepsWhatIsMarkedAndTheTank) {
+  auto& form = open();
+  fill(form);
+  choose(form.SSTab1, 2);
+  click(form.Option5);
+  type(form.Text17, "80");
+  choose(form.SSTab1, 0);
+  click(form.Check3);
+  click(form.Check5);
+  click(form.Command1);
+  EXPECT_EQ((Texts{form.Text1.text(), form.Text2.text(), form.Text3.text(), form.Text4.text(),
+                   form.Text5.text(), form.Text7.text(), form.Text8.text(), form.Text9.text(),
+                   form.Text10.text(), form.Text17.text()}),
+            (Texts{"2", "Egypt", "", "Giftun", "", "", "Anna", "", "", "80"}));
+  EXPECT_TRUE(form.Option5.on());
+  EXPECT_EQ(form.Text20.text(), "");
+  EXPECT_EQ(form.activeControl(), &form.Command1);
+}
+
+TEST_F(InsertDive, AnEmptyRequiredBoxIsNamedAndOkClosesAllTheSame) {
+  auto& form = open();
+  fill(form);
+  clear(form.Text10);
+  clear(form.Text5);
+  click(form.Command1);
+  EXPECT_EQ(desktop->texts(), Texts{"Day - Depth - could not be empty!"});
+  EXPECT_EQ(form.Text1.text(), "1");
+  EXPECT_EQ(form.Text2.text(), "Egypt");
+  EXPECT_EQ(form.Text20.text(), "");
+  click(form.Command2);
+  EXPECT_EQ(desktop->texts(), Texts{"Day - Depth - could not be empty!"});
+  EXPECT_FALSE(app->loaded(2));
+  EXPECT_TRUE(column("Nr").empty());
+}
+
+TEST_F(InsertDive, TodayIsPaddedByTheRulesOfItsBoxes) {
+  auto& form = open();
+  click(form.Command4);
+  EXPECT_EQ((Texts{form.Text5.text(), form.Text6.text(), form.Text7.text()}),
+            (Texts{"05", "03", "2001"}));
+  EXPECT_EQ(form.activeControl(), &form.Text8);
+}
+
+TEST_F(InsertDive, ThePictureStaysOnShowWhenTheNextDiveBegins) {
+  auto& form = open();
+  fill(form);
+  const auto picture = folder.write("reef.jpg", "picture");
+  const auto rubbish = folder.write("rubbish.jpg", "no such thing");
+  choose(form.SSTab1, 3);
+  desktop->answerFile(picture).answerFile(rubbish).answerFile({});
+  click(form.Command5);
+  EXPECT_EQ(pathOf(form.Image4.picture()), picture);
+  EXPECT_EQ(desktop->dialogs.back().title, "Link a graphic with this dive");
+  click(form.Command5);
+  EXPECT_EQ(form.Text21.text(), rubbish);
+  EXPECT_EQ(pathOf(form.Image4.picture()), picture);
+  click(form.Command5);
+  EXPECT_EQ(form.Text21.text(), rubbish);
+  click(form.Command1);
+  EXPECT_EQ(form.Text21.text(), "");
+  EXPECT_EQ(pathOf(form.Image4.picture()), picture);
+  EXPECT_EQ(column("Grafik"), Texts{rubbish});
+}
+
+TEST_F(InsertDive, NineThousandNineHundredNinetyNineIsTheLastNumber) {
+  add({{"Nr", "9998"}});
+  auto& form = open();
+  EXPECT_EQ(form.Text1.text(), "9999");
+  fill(form);
+  click(form.Command1);
+  EXPECT_EQ(desktop->texts(),
+            Texts{"You could not insert more than 9999 dives. Please select 'Sort logbook' and "
+                  "enter a lower start number. This dive will be saved."});
+  EXPECT_FALSE(app->loaded(2));
+  EXPECT_EQ(column("Nr"), (Texts{"9998", "9999"}));
+
+  click(app->MDIForm1().Menü2a);
+  EXPECT_EQ(desktop->texts(),
+            Texts{"The last dive number is over 9998. You could not enter more than 9999 dives. "
+                  "Please select 'Sort logbook' and enter a lower start number. "});
+  EXPECT_FALSE(app->loaded(2));
+  EXPECT_EQ(app->activeForm(), nullptr);
+}
+
+TEST_F(InsertDive, TheNumberFollowsTheLastRowAndNotTheHighest) {
+  add({{"Nr", "20"}});
+  add({{"Nr", "7"}});
+  auto& form = open();
+  desktop->messages();
+  EXPECT_EQ(form.Text1.text(), "8");
+  type(form.Text1, "5");
+  EXPECT_EQ(form.Text1.text(), "8");
+}
+
+TEST_F(InsertDive, ALogbookThatCannotBeReachedEndsTheProgramAndKeepsItsDives) {
+  addDives(1, 3);
+  auto& form = open();
+  fill(form);
+  ASSERT_EQ(rename(folder.file("Logbuch.mdb").c_str(), folder.file("aside").c_str()), 0);
+  click(form.Command1);
+  EXPECT_EQ(desktop->failure()->number, DatabaseNotFound);
+  ASSERT_EQ(rename(folder.file("aside").c_str(), folder.file("Logbuch.mdb").c_str()), 0);
+  EXPECT_EQ(column("Nr"), (Texts{"1", "2", "3"}));
+}
+
+}  // namespace
+}  // namespace nautrel
