@@ -186,11 +186,21 @@ class ButtonBinding : public Binding {
 
  protected:
   void pushContent() override {
-    if (const auto text = toQt(button_.caption()); widget_.text() != text) widget_.setText(text);
+    if (const auto text = toQt(button_.caption()); widget_.text() != text) {
+      widget_.setText(text);
+      giveTextRoom();
+    }
     if (widget_.isDefault() != button_.isDefault()) widget_.setDefault(button_.isDefault());
   }
 
  private:
+  // The style leaves a long caption hardly a hair's breadth to the edge.
+  void giveTextRoom() {
+    const int width = widget_.fontMetrics().size(Qt::TextShowMnemonic, widget_.text()).width();
+    if (width + 28 > widget_.minimumWidth() && widget_.maximumWidth() == QWIDGETSIZE_MAX)
+      widget_.setMinimumWidth(width + 28);
+  }
+
   Button& button_;
   QPushButton& widget_;
 };

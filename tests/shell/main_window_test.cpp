@@ -1,0 +1,222 @@
+#include "dives/Form2.h"
+#include "dives/Form3.h"
+#include "shell/Form1.h"
+#include "support/logbook.h"
+
+namespace nautrel {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+constexpr const char* kNotSorted =
+    "Attention! The dives are not sorted correctly. Please select 'Sort logbook'. Otherwise there "
+    "could be program errors.";
+
+class MainWindow : public LogbookTest {
+ protected:
+  MDIForm1& frame() { return app->MDIForm1(); }
+};
+
+TEST_F(MainWindow, TheSplashStandsInTheMiddleAndGivesWayToTheMainWindow) {
+  app->start();
+  const auto& splash = app->Form1();
+  EXPECT_EQ(splash.Timer1.interval(), 800);
+  EXPECT_EQ(splash.Left(), desktop->size.width / 2 - splash.Width() / 2);
+  EXPECT_EQ(splash.Top(), desktop->size.height / 2 - splash.Height() / 2);
+  EXPECT_FALSE(app->loaded(0));
+  app->Form1().Timer1.userFires();
+  EXPECT_FALSE(app->loaded(1));
+  EXPECT_TRUE(frame().visible());
+  EXPECT_EQ(frame().caption(), "Nautrel 2.0");
+  EXPECT_EQ(frame().windowState(), WindowState::Maximized);
+}
+
+struct CountCase {
+  Texts numbers;
+  bool warned;
+  const char* status;
+};
+
+class Count : public MainWindow, public ::testing::WithParamInterface<CountCase> {};
+
+TEST_P(Count, IsHeldAgainstTheRangeAtTheStart) {
+  for (const auto& number : GetParam().numbers) add({{"Nr", number}});
+  start();
+  EXPECT_EQ(desktop->messages(),
+            GetParam().warned ? std::vector<Shown>{{kNotSorted}} : std::vector<Shown>{});
+  EXPECT_EQ(status(), GetParam().status);
+  EXPECT_EQ(frame().Menü2b.enabled(), !GetParam().numbers.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Logbooks, Count,
+    ::testing::Values(CountCase{{}, false, "<Logbuch.mdb> Dives Logged: 0"},
+                      CountCase{{"1", "2", "3"}, false, "<Logbuch.mdb> Dives Logged: 3 (1 to 3)"},
+                      CountCase{{"5", "6"}, false, "<Logbuch.mdb> Dives Logged: 2 (5 to 6)"},
+                      CountCase{{"1", "3"}, true, "<Logbuch.mdb> Dives Logged: 2 (1 to 3)"},
+                      // A gap and a double that cancel each other pass.
+                      CountCase{{"1", "1", "3"}, false, "<Logbuch.mdb> Dives Logged: 3 (1 to 3)"}));
+
+TEST_F(MainWindow, AnEmptyLogbookLocksExactlyWhatNeedsDives) {
+  start();
+  Texts free;
+  for (auto* menu : frame().menus())
+    for (auto* item : menu->items())
+      if (item != nullptr && item->enabled()) free.push_back(item->name());
+  EXPECT_EQ(free,
+            (Texts{"Menü1f", "Menü1b", "Menü1c", "Menü1g", "Menü1e", "Menü2a", "Menü7b", "Menü7a",
+                   "Menü7c", "Menü5a", "Menü5b", "Menü6a", "Menü8a", "Menü8b", "Menü8c"}));
+  for (int button = 1; button <= 23; ++button) {
+    const auto& key = frame().Toolbar1.buttons()[static_cast<std::size_t>(button - 1)].key;
+    const bool always = key.empty() || button == 2 || button == 7 || button == 8 || button >= 22;
+    EXPECT_EQ(frame().Toolbar1.buttonEnabled(button), always) << key;
+  }
+  app->Modul1().MenuesFreigeben();
+  EXPECT_TRUE(frame().Menü6h.enabled());
+}
+
+TEST_F(MainWindow, AFullLogbookRefusesInTwoLanguages) {
+  {
+    Workspace workspace;
+    auto rows = workspace.OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset("Logbuch");
+    for (int number = 1; number <= 9998; ++number) {
+      rows.AddNew();
+      rows.setField("Nr", std::to_string(number));
+      rows.Update();
+    }
+  }
+  start();
+  click(frame().Menü2a);
+  EXPECT_TRUE(app->loaded(2));
+  add({{"Nr", "9999"}});
+  for (auto* item : {&frame().Menü2a, &frame().Menü6a}) {
+    click(*item);
+    EXPECT_EQ(desktop->texts(),
+              Texts{"Die Datenbank kann nicht mehr als 9999 Tauchgänge aufnehmen"});
+    EXPECT_FALSE(app->loaded(2));
+  }
+  click(frame().Toolbar1, "einfügen");
+  EXPECT_EQ(desktop->texts(), Texts{"You could not insert more than 9999 dives in the database."});
+}
+
+TEST_F(MainWindow, TheWindowsOfTheExclusiveSetCloseEachOther) {
+  addDives(1, 3);
+  start();
+  click(frame().Toolbar1, "logbuch");
+  auto* first = &app->Form3();
+  press(first->Data1, Navigator::Arrow::Next);
+  click(frame().Menü3a);
+  EXPECT_EQ(app->Form3().Text1.text(), "2") << "an open window stays as it is";
+  click(frame().Toolbar1, "einfügen");
+  EXPECT_FALSE(app->loaded(3));
+  type(app->Form2().Text2, "unsaved");
+  click(frame().Menü6c);
+  EXPECT_FALSE(app->loaded(2));
+  EXPECT_EQ(desktop->texts(), Texts{});
+}
+
+TEST_F(MainWindow, ASettingOpensItsWindowButNeverOnAnEmptyLogbook) {
+  desktop->settings[{"Start", "Window"}] = "Insert dive";
+  start();
+  EXPECT_FALSE(app->loaded(2));
+  addDives(1, 1);
+  restart();
+  EXPECT_TRUE(app->loaded(2));
+  desktop->settings[{"Start", "Window"}] = "insert dive";
+  restart();
+  EXPECT_FALSE(app->loaded(2));
+}
+
+struct GroundCase {
+  const char* color;
+  bool withPicture;
+  long shown;
+  bool pictureShown;
+};
+
+class GroundSettings : public MainWindow, public ::testing::WithParamInterface<GroundCase> {};
+
+TEST_P(GroundSettings, ColourAndPictureAreTakenOver) {
+  const auto picture = folder.write("reef.bmp", "picture");
+  if (*GetParam().color != '\0') desktop->settings[{"Colors", "Main"}] = GetParam().color;
+  desktop->settings[{"Start", "Grafic"}] =
+      GetParam().withPicture ? picture : folder.file("gone.bmp");
+  start();
+  EXPECT_EQ(frame().BackColor(), GetParam().shown);
+  EXPECT_EQ(pathOf(frame().picture()), GetParam().pictureShown ? picture : "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Settings, GroundSettings,
+                         ::testing::Values(GroundCase{"255", true, 255, true},
+                                           GroundCase{"255", false, 255, false},
+                                           GroundCase{"", true, 12632256, false},
+                                           GroundCase{"red", true, 12632256, false}));
+
+TEST_F(MainWindow, AFreeSizeIsTakenFromTheSettingsAndRubbishInItEndsTheProgram) {
+  desktop->settings = {{{"Start", "Fenster"}, "Ben"},
+                       {{"Start", "Breite"}, "10000"},
+                       {{"Start", "Höhe"}, "8000.5"},
+                       {{"Start", "Links"}, "300"},
+                       {{"Start", "Oben"}, "150"}};
+  start();
+  EXPECT_EQ(frame().windowState(), WindowState::Normal);
+  EXPECT_EQ(frame().Width(), 10000);
+  EXPECT_EQ(frame().Height(), 8000.5);
+  EXPECT_EQ(frame().Left(), 300);
+  EXPECT_EQ(status(), "") << "too narrow for the panel";
+  frame().userResized(0, 0, 10335, 8000);
+  EXPECT_EQ(status(), "<Logbuch.mdb> Dives Logged: 0");
+
+  desktop->settings[{"Start", "Oben"}] = "high";
+  restart();
+  EXPECT_EQ(desktop->failure()->number, TypeMismatch);
+}
+
+TEST_F(MainWindow, HelpPrinterAndEndGoThroughTheDoor) {
+  start();
+  click(frame().Menü5a);
+  EXPECT_EQ(desktop->opened, Texts{folder.file("nautrel.rtf")});
+  desktop->answerPrinter(false).answerPrinter(true);
+  click(frame().Menü1f);
+  click(frame().Menü1f);
+  desktop->answerMenu("Menü6a");
+  frame().MDIForm_MouseUp(2);
+  EXPECT_TRUE(app->loaded(2));
+  frame().MDIForm_MouseUp(1);
+  click(frame().Menü1e);
+  EXPECT_TRUE(desktop->ended());
+  click(app->Form2().Command3);
+  EXPECT_TRUE(app->loaded(2)) << "nothing runs after the end";
+}
+
+struct FaultCase {
+  const char* content;  // null: no file at all
+  int number;
+};
+
+class Fault : public MainWindow, public ::testing::WithParamInterface<FaultCase> {};
+
+TEST_P(Fault, OfTheFileEndsTheProgramWithItsMessageAndNothingIsWritten) {
+  const auto path = folder.file("Logbuch.mdb");
+  remove(path.c_str());
+  if (GetParam().content != nullptr) folder.write("Logbuch.mdb", GetParam().content);
+  start();
+  EXPECT_EQ(desktop->failure()->number, GetParam().number);
+  EXPECT_EQ(readFile(path), GetParam().content == nullptr ? "" : GetParam().content);
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, Fault,
+                         ::testing::Values(FaultCase{nullptr, DatabaseNotFound},
+                                           FaultCase{"This is a letter and no logbook. ........",
+                                                     UnrecognizedFormat}));
+
+TEST_F(MainWindow, AFailureInsideALoadEndsTheProgramWhateverRuleTheCommandRunsUnder) {
+  addDives(1, 2);
+  start();
+  remove(folder.file("Logbuch.mdb").c_str());
+  click(frame().Menü3a);
+  EXPECT_EQ(desktop->failure()->number, DatabaseNotFound);
+}
+
+}  // namespace
+}  // namespace nautrel
