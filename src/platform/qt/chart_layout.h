@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QFontMetricsF>
+#include <QRectF>
+
+#include "platform/qt/chart_axis.h"
+#include "platform/qt/chart_data.h"
+#include "platform/qt/chart_space.h"
+
+namespace nautrel {
+
+/// How far apart a chart's parts stand.
+constexpr double kChartPadding = 10;
+constexpr double kChartGap = 6;
+
+/// Where everything of a chart stands in its rectangle, so that no label is cut and none touches
+/// another at any size.
+class ChartLayout {
+ public:
+  ChartLayout(const ChartData& data, ChartTurn turn, const QFontMetricsF& font, QRectF rect);
+
+  const ChartAxis& axis() const { return axis_; }
+  const ChartSpace& space() const { return space_; }
+
+  /// The width that one row takes of the box.
+  double slot() const { return 1.0 / rows_; }
+  /// A row's middle along the categories.
+  double middle(int row) const { return (row + 0.5) * slot(); }
+  /// The row at a point of the widget, or -1.
+  int rowAt(QPointF point) const;
+
+  /// Where the value labels end, beside the box.
+  QPointF valueLabelEnd(int tick) const;
+  /// Below the front edge, where a row's label hangs.
+  QPointF categoryLabelTop(int row) const;
+  /// 0, 45 or 90: how far the row labels are turned to have room.
+  int labelAngle() const { return angle_; }
+  /// Every how many rows a label has room.
+  int labelStride() const { return stride_; }
+  double lineHeight() const { return lineHeight_; }
+  QRectF valueTitle() const;
+  QRectF categoryTitle() const;
+
+ private:
+  void arrange(int angle);
+  bool labelsFit(int stride) const;
+  QMarginsF margins() const;
+  double clearance() const;
+
+  QRectF rect_;
+  ChartTurn turn_;
+  int rows_;
+  double depth_;
+  double greatest_ = 0;
+  bool counts_ = true;
+  double lineHeight_;
+  double widestLabel_ = 0;
+  double widestValue_ = 0;
+  QFontMetricsF font_;
+  ChartAxis axis_;
+  ChartSpace space_;
+  int angle_ = 0;
+  int stride_ = 1;
+};
+
+}  // namespace nautrel
