@@ -1,0 +1,213 @@
+#include "platform/qt/pictures.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QColor>
+#include <QFile>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <random>
+
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
+
+namespace nautrel {
+namespace {
+
+class Bytes {
+ public:
+  Bytes& words(std::initializer_list<quint16> numbers) { return add(numbers); }
+  Bytes& longs(std::initializer_list<quint32> numbers) { return add(numbers); }
+  operator QByteArray() const { return bytes_; }
+
+ private:
+  template <class Number>
+  Bytes& add(std::initializer_list<Number> numbers) {
+    for (const Number number : numbers) {
+      const Number little = qToLittleEndian(number);
+      bytes_.append(reinterpret_cast<const char*>(&little), sizeof little);
+    }
+    return *this;
+  }
+
+  QByteArray bytes_;
+};
+
+constexpr quint16 kInch = 1440;
+
+/// A red field over the left half of 2 by 1 inches, counted downwards from 0 or upwards from an
+/// inch below.
+QByteArray windowsMetafile(bool upwards = false) {
+  const quint16 top = upwards ? kInch : 0;
+  const auto height = static_cast<quint16>(upwards ? -kInch : kInch);
+  return Bytes()
+      .longs({0x9AC6CDD7})
+      .words({0, 0, 0, 2 * kInch, kInch, kInch, 0, 0})
+      .words({0x9AC6 ^ 0xCDD7 ^ 2 * kInch})
+      .words({1, 9, 0x300, 40, 0, 1, 7, 0, 0})
+      .words({5, 0, 0x20B, top, 0})
+      .words({5, 0, 0x20C, height, 2 * kInch})
+      .words({7, 0, 0x2FC, 0, 0x00FF, 0x0000, 0})
+      .words({4, 0, 0x12D, 0})
+      .words({7, 0, 0x41B, kInch, kInch, 0, 0})
+      .words({3, 0, 0});
+}
+
+/// The same as an enhanced metafile.
+QByteArray enhancedMetafile() {
+  return Bytes()
+      .longs({1, 88, 0, 0, 192, 96, 0, 0, 5080, 2540, 0x464D4520})
+      .longs({0x10000, 192, 5, 2, 0, 0, 0, 1920, 1080, 508, 286})
+      .longs({39, 24, 1, 0, 0x000000FF, 0})
+      .longs({37, 12, 1})
+      .longs({37, 12, 0x80000008})
+      .longs({43, 24, 0, 0, 96, 96})
+      .longs({14, 20, 0, 16, 20});
+}
+
+QByteArray photograph(QSize size, const char* format = "jpg") {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(Qt::blue);
+  QPainter(&image).fillRect(0, 0, size.width() / 2, size.height(), Qt::red);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, format, 90);
+  return bytes;
+}
+
+/// The camera was held on its side.
+QByteArray turnedPhotograph(QSize size) {
+  const QByteArray jpg = photograph(size);
+  const QByteArray exif = QByteArray::fromHex(
+      "ffe10022457869660000"
+      "4d4d002a00000008"
+      "0001011200030000000100060000"
+      "00000000");
+  return jpg.first(2) + exif + jpg.mid(2);
+}
+
+bool isRed(const QColor& color) {
+  return color.red() > 200 && color.blue() < 60;
+}
+
+class PicturesTest : public testing::Test {
+ protected:
+  QString write(const QString& name, const QByteArray& bytes) {
+    const QString path = folder_.filePath(name);
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    return path;
+  }
+
+  Picture load(const QString& name, const QByteArray& bytes) {
+    return pictures_.load(write(name, bytes));
+  }
+
+  QTemporaryDir folder_;
+  Pictures pictures_{{400, 300}};
+};
+
+TEST_F(PicturesTest, LoadsEveryKindAtWhatAScreenCanShow) {
+  const QSize big(800, 600);
+  const QSize small(192, 96);
+  const QByteArray twoDots = QByteArray::fromHex(
+      "474946383961020001008000"
+      "00ff00000000ff"
+      "2c000000000200010000"
+      "0202440a003b");
+  const struct {
+    const char* name;
+    QByteArray bytes;
+    QSize size, image;
+    QColor right;
+  } cases[] = {
+      {"a.jpg", photograph(big), big, {400, 300}, Qt::blue},
+      {"a.bmp", photograph(big, "bmp"), big, {400, 300}, Qt::blue},
+      {"a.dib", photograph(small, "bmp"), small, small, Qt::blue},
+      {"jpg named.bmp", photograph(small), small, small, Qt::blue},
+      {"a.wmf", windowsMetafile(), small, {400, 200}, Qt::white},
+      {"upwards.wmf", windowsMetafile(true), small, {400, 200}, Qt::white},
+      {"plain.wmf", windowsMetafile().mid(22), small, {400, 200}, Qt::white},
+      {"a.emf", enhancedMetafile(), small, {400, 200}, Qt::white},
+      {"a.gif", twoDots, {2, 1}, {2, 1}, Qt::blue},
+  };
+  for (const auto& [name, bytes, size, image, right] : cases) {
+    const Picture picture = load(name, bytes);
+    ASSERT_EQ(picture.error, 0) << name;
+    EXPECT_EQ(picture.size, size) << name;
+    EXPECT_EQ(picture.image.size(), image) << name;
+    const int middle = image.height() / 2;
+    EXPECT_TRUE(isRed(picture.image.pixelColor(image.width() / 4, middle))) << name;
+    const QColor there = picture.image.pixelColor(image.width() * 3 / 4, middle);
+    EXPECT_NEAR(there.red(), right.red(), 20) << name;
+    EXPECT_NEAR(there.blue(), right.blue(), 20) << name;
+  }
+}
+
+TEST_F(PicturesTest, TurnsAPhotographAsTheCameraWasHeld) {
+  const Picture picture = load("a.jpg", turnedPhotograph({800, 600}));
+  ASSERT_EQ(picture.error, 0);
+  EXPECT_EQ(picture.size, QSize(600, 800));
+  EXPECT_EQ(picture.image.size(), QSize(225, 300));
+  EXPECT_TRUE(isRed(picture.image.pixelColor(112, 20)));
+  EXPECT_FALSE(isRed(picture.image.pixelColor(112, 280)));
+}
+
+TEST_F(PicturesTest, TellsWhatIsNotThereFromWhatIsNoPicture) {
+  EXPECT_EQ(pictures_.load({}).error, 53);
+  EXPECT_EQ(pictures_.load(folder_.filePath("gone.jpg")).error, 53);
+  EXPECT_EQ(pictures_.load(folder_.path()).error, 481);
+#ifndef Q_OS_WIN
+  const QString pipe = folder_.filePath("pipe.jpg");
+  ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+  EXPECT_EQ(pictures_.load(pipe).error, 481);
+#endif
+  QByteArray boundless = photograph({64, 64});
+  boundless.replace(boundless.indexOf("\xFF\xC0") + 5, 4, QByteArray::fromHex("ff00ff00"));
+  const struct {
+    const char* name;
+    QByteArray bytes;
+  } rubbish[] = {
+      {"empty.jpg", {}},
+      {"text.bmp", "This is no picture."},
+      {"head.bmp", "BM"},
+      {"head.jpg", "\xFF\xD8\xFF\xE0"},
+      {"head.gif", "GIF89a"},
+      {"boundless.jpg", boundless},
+      {"drawing.jpg", photograph({8, 8}, "png")},
+      {"cut.wmf", windowsMetafile().first(30)},
+      {"cut.emf", enhancedMetafile().first(60)},
+  };
+  for (const auto& [name, bytes] : rubbish) EXPECT_EQ(load(name, bytes).error, 481) << name;
+}
+
+TEST_F(PicturesTest, SurvivesSpoiledMetafiles) {
+  std::mt19937 random(7);
+  for (const QByteArray& whole : {windowsMetafile(), enhancedMetafile()})
+    for (int round = 0; round < 40; ++round) {
+      QByteArray spoiled = whole;
+      for (int hit = 0; hit < 4; ++hit)
+        spoiled[static_cast<qsizetype>(4 + random() % (spoiled.size() - 4))] =
+            static_cast<char>(random());
+      const Picture picture = load("spoiled", spoiled);
+      EXPECT_EQ(picture.error, picture.image.isNull() ? 481 : 0);
+    }
+}
+
+TEST_F(PicturesTest, LoadsAgainOnlyWhatHasChanged) {
+  const QString path = write("a.bmp", photograph({40, 20}, "bmp"));
+  const auto first = pictures_.load(path).image.cacheKey();
+  EXPECT_EQ(pictures_.load(path).image.cacheKey(), first);
+  write("a.bmp", photograph({20, 40}, "bmp").append('\0'));
+  EXPECT_EQ(pictures_.load(path).size, QSize(20, 40));
+  QFile::remove(path);
+  EXPECT_EQ(pictures_.load(path).error, 53);
+}
+
+}  // namespace
+}  // namespace nautrel
