@@ -1,5 +1,6 @@
 #include "evaluation/figures.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -20,8 +21,8 @@ class Tally {
       : labels_(std::move(labels)), counts_(labels_.size()) {}
 
   void count(const std::string& text) {
-    for (std::size_t row = 0; row < labels_.size(); ++row)
-      if (labels_[row] == text) ++counts_[row];
+    const auto found = std::find(labels_.begin(), labels_.end(), text);
+    if (found != labels_.end()) ++counts_[static_cast<std::size_t>(found - labels_.begin())];
   }
 
   const std::string& label(std::size_t row) const { return labels_[row]; }
@@ -72,14 +73,17 @@ YearFigures countYears(Recordset& dives, int lastYear, const Locale& locale, con
   YearFigures figures;
   Tally tally = tallyOfYears(lastYear);
   double greatest = 0;
+  Value before;
   eachDive(dives, done, [&] {
-    const Value year = dives.Fields(Feld::Jahr);
-    const std::string text = year.text(locale);
+    Value year = dives.Fields(Feld::Jahr);
+    tally.count(year.text(locale));
+    // Dives come year by year; one like the last brings nothing new.
+    if (year == before) return;
     if (const double number = year.number(locale); number > greatest) {
       greatest = number;
-      figures.greatestYear = text;
+      figures.greatestYear = year.text(locale);
     }
-    tally.count(text);
+    before = std::move(year);
   });
   for (std::size_t row = 0; row < tally.size(); ++row)
     figures.rows.push_back({tally.label(row), std::to_string(tally[row])});

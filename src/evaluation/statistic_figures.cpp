@@ -11,11 +11,17 @@ namespace {
 
 constexpr double kMinutesPerHour = 60;
 
-/// A number as its label holds it. Every figure runs through its label's text from dive to dive,
-/// so that it keeps 15 digits; whole numbers have no more.
+/// A number as its label holds it: every figure runs through its label's text from dive to dive,
+/// so that it keeps 15 digits.
 double throughLabel(double number, const Locale& locale) {
-  constexpr double kMostDigits = 1e15;
-  if (number == std::trunc(number) && std::abs(number) < kMostDigits) return number;
+  // Next to a decimal of few places, and nearer than half of its 15th digit, the text says just
+  // that decimal. Depths and times are nearly always such, and the detour costs more than the pass.
+  constexpr double kPlaces = 1e4;
+  constexpr double kMost = 1e11;
+  constexpr double kNear = 4e-16;
+  const double decimal = std::round(number * kPlaces) / kPlaces;
+  if (std::abs(number) < kMost && std::abs(number - decimal) <= kNear * std::abs(number))
+    return decimal;
   return readNumber(generalText(number, locale), locale);
 }
 

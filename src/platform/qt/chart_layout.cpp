@@ -104,6 +104,17 @@ QPointF ChartLayout::categoryLabelTop(int row) const {
   return space_.at(middle(row), 0, 1) + QPointF(0, kChartGap + clearance());
 }
 
+QTransform ChartLayout::categoryLabelPlace(int row) const {
+  const QPointF top = categoryLabelTop(row);
+  return QTransform::fromTranslate(top.x(), top.y())
+      .rotate(space_.showsRightWall() ? angle_ : -angle_);
+}
+
+QRectF ChartLayout::categoryLabelRect(double width) const {
+  if (angle_ == 0) return {-width / 2, 0, width, lineHeight_};
+  return {space_.showsRightWall() ? 0 : -width, -lineHeight_ / 2, width, lineHeight_};
+}
+
 QRectF ChartLayout::valueTitle() const {
   return {rect_.left() + kChartPadding, rect_.top() + kChartPadding,
           rect_.width() - 2 * kChartPadding, lineHeight_};

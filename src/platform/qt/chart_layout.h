@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QRectF>
+#include <QTransform>
 
 #include "platform/qt/chart_axis.h"
 #include "platform/qt/chart_data.h"
@@ -31,10 +32,10 @@ class ChartLayout {
 
   /// Where the value labels end, beside the box.
   QPointF valueLabelEnd(int tick) const;
-  /// Below the front edge, where a row's label hangs.
-  QPointF categoryLabelTop(int row) const;
-  /// 0, 45 or 90: how far the row labels are turned to have room.
-  int labelAngle() const { return angle_; }
+  /// Turns and moves the painter to where a row's label hangs below the front edge.
+  QTransform categoryLabelPlace(int row) const;
+  /// The label's rectangle there, for a text of this width.
+  QRectF categoryLabelRect(double width) const;
   /// Every how many rows a label has room.
   int labelStride() const { return stride_; }
   double lineHeight() const { return lineHeight_; }
@@ -46,6 +47,7 @@ class ChartLayout {
   bool labelsFit(int stride) const;
   QMarginsF margins() const;
   double clearance() const;
+  QPointF categoryLabelTop(int row) const;
 
   QRectF rect_;
   ChartTurn turn_;
@@ -59,6 +61,7 @@ class ChartLayout {
   QFontMetricsF font_;
   ChartAxis axis_;
   ChartSpace space_;
+  /// 0, 45 or 90: how far the row labels are turned to have room.
   int angle_ = 0;
   int stride_ = 1;
 };

@@ -125,22 +125,14 @@ void ChartPainter::paintValueLabels() {
 }
 
 void ChartPainter::paintCategoryLabels() {
-  const double height = layout_.lineHeight();
-  const double width = 1000;
-  const int angle = layout_.labelAngle();
-  const bool toTheRight = space_.showsRightWall();
+  const QFontMetricsF font(painter_.font());
   painter_.setPen(shade(0.75));
   for (int row = 0; row < rows_; row += layout_.labelStride()) {
-    painter_.save();
-    painter_.translate(layout_.categoryLabelTop(row));
     const QString& label = data_.rows[static_cast<std::size_t>(row)].label;
-    if (angle == 0) {
-      painter_.drawText(QRectF(-width / 2, 0, width, height), Qt::AlignCenter, label);
-    } else {
-      painter_.rotate(toTheRight ? angle : -angle);
-      painter_.drawText(QRectF(toTheRight ? 0 : -width, -height / 2, width, height),
-                        (toTheRight ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter, label);
-    }
+    painter_.save();
+    painter_.setTransform(layout_.categoryLabelPlace(row), true);
+    painter_.drawText(layout_.categoryLabelRect(font.horizontalAdvance(label)),
+                      Qt::AlignCenter | Qt::TextDontClip, label);
     painter_.restore();
   }
 }
