@@ -74,7 +74,8 @@ class Desktop {
 
   DateTime now();
   const Locale& locale() { return currentLocale(); }
-  /// The empty path gives the empty picture. Raises 53 (no such file) or 481 (no picture).
+  /// The empty path gives the empty picture. Raises 53 (no such file), 75 (may not be read) or 481
+  /// (no picture).
   Picture LoadPicture(const std::string& path);
   void runReport(const ReportJob& job);
   /// Hands a document to the desktop's own opener; what comes of it is not told.

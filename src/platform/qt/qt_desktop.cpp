@@ -7,7 +7,6 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
-#include <QImageReader>
 #include <QInputDialog>
 #include <QLocale>
 #include <QMenu>
@@ -29,6 +28,14 @@ namespace nautrel {
 namespace {
 
 constexpr int kAskBeforeOverwriting = 2;
+
+/// In device pixels.
+QSize largestScreen() {
+  QSize largest;
+  for (const QScreen* screen : QGuiApplication::screens())
+    largest = largest.expandedTo(screen->size() * screen->devicePixelRatio());
+  return largest;
+}
 
 Locale systemLocale() {
   const QLocale system;
@@ -57,7 +64,8 @@ QString nameFilter(const std::string& filter) {
 QtDesktop::QtDesktop()
     : locale_(systemLocale()),
       settings_(QSettings::NativeFormat, QSettings::UserScope,
-                QString::fromUtf8(kApplicationTitle)) {}
+                QString::fromUtf8(kApplicationTitle)),
+      pictures_(largestScreen()) {}
 
 QWidget* QtDesktop::parentWindow() const {
   if (auto* modal = QApplication::activeModalWidget()) return modal;
@@ -125,10 +133,7 @@ DateTime QtDesktop::currentTime() {
 }
 
 Picture QtDesktop::readPicture(const std::string& path) {
-  if (!QFileInfo::exists(toQt(path))) raise(FileNotFound);
-  auto image = QImageReader(toQt(path)).read();
-  if (image.isNull()) raise(InvalidPicture);
-  return std::make_shared<ImagePicture>(std::move(image));
+  return std::make_shared<ImagePicture>(pictures_.load(toQt(path)));
 }
 
 void QtDesktop::open(const std::string& path) {

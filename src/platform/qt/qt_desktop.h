@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "platform/desktop.h"
+#include "platform/qt/pictures.h"
 
 namespace nautrel {
 
@@ -46,6 +47,7 @@ class QtDesktop : public Desktop {
   QtLooks* looks_ = nullptr;
   Locale locale_;
   QSettings settings_;
+  Pictures pictures_;
   std::optional<RunTimeError> failure_;
 };
 
