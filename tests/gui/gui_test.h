@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/form_view.h"
+#include "platform/qt/main_frame.h"
+#include "platform/qt/qt_looks.h"
+#include "support/logbook.h"
+
+namespace nautrel {
+
+/// The program with its real look over the scripted desktop, driven by real widgets and keys.
+class GuiTest : public LogbookTest {
+ protected:
+  GuiTest() : looks(std::make_unique<QtLooks>(*app)) { app->setLooks(looks.get()); }
+  ~GuiTest() override {
+    app.reset();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    looks.reset();
+  }
+
+  void start() {
+    LogbookTest::start();
+    settle();
+  }
+  /// Lets the screen come to rest.
+  static void settle() {
+    for (int i = 0; i < 5; ++i) QApplication::processEvents();
+  }
+
+  QWidget* window(const Form& form) { return looks->viewOf(form)->root(); }
+  template <class Widget = QWidget>
+  Widget& widget(const Control& control) {
+    auto* found = window(control.form())->findChild<Widget*>(toQt(control.name()));
+    EXPECT_NE(found, nullptr) << control.name();
+    return *found;
+  }
+  /// Presses and releases the mouse in the middle of the widget, and gives the focus as the system
+  /// does.
+  void mouse(QWidget& target) {
+    QTest::mouseClick(&target, Qt::LeftButton);
+    settle();
+  }
+  void mouse(const Control& control) { mouse(widget(control)); }
+  /// Sends the keys to whatever has the focus.
+  static void keys(const QString& text) {
+    for (const auto character : text)
+      QTest::keyClick(QApplication::focusWidget(), character.toLatin1());
+    settle();
+  }
+  static void key(Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), code, modifiers);
+    settle();
+  }
+  void expectFocus(const Control& control) {
+    EXPECT_EQ(control.form().activeControl(), &control);
+    const auto* shown = QApplication::focusWidget();
+    const auto* wanted = &widget(control);
+    EXPECT_TRUE(shown == wanted || wanted->isAncestorOf(shown))
+        << (shown == nullptr ? "nothing" : fromQt(shown->objectName())) << " has the focus, not "
+        << control.name();
+  }
+
+  std::unique_ptr<QtLooks> looks;
+};
+
+}  // namespace nautrel
