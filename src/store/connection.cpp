@@ -62,8 +62,8 @@ Connection::Connection(std::string path, std::shared_ptr<std::set<std::string>> 
   try {
     open(SQLITE_OPEN_READWRITE);
   } catch (const RunTimeError& failure) {
-    if (failure.number == CouldNotLock) raise(CannotOpenFile, path_);
-    throw;
+    if (failure.number == UnrecognizedFormat || failure.number == DiskFull) throw;
+    raise(CannotOpenFile, path_);
   }
 }
 
@@ -76,6 +76,14 @@ Connection Connection::create(std::string path) {
   return made;
 }
 
+bool Connection::hasLog(const std::string& path) {
+  std::error_code failed;
+  auto log = fs::canonical(fromUtf8(path), failed);
+  log += "-wal";
+  const auto size = fs::file_size(log, failed);
+  return !failed && size > 0;
+}
+
 void Connection::open(int flags) {
   sqlite3* opened = nullptr;
   const int code = sqlite3_open_v2(path_.c_str(), &opened,
@@ -83,8 +91,8 @@ void Connection::open(int flags) {
   handle_.reset(opened);
   if (code != SQLITE_OK) raiseFailure(code);
   sqlite3_busy_timeout(opened, kWaitForOthers);
-  Statement(*this, "PRAGMA synchronous = NORMAL").run();
-  Statement(*this, "PRAGMA schema_version").step();
+  Statement(*this, "PRAGMA synchronous = NORMAL")
+      .run();  // reads the file, and finds out what it is
 }
 
 void Connection::raiseFailure(int code) const {

@@ -23,6 +23,9 @@ class Connection {
   /// Makes the file if it is not there.
   static Connection create(std::string path);
 
+  /// Whether changes to the file may still wait in the log beside it.
+  static bool hasLog(const std::string& path);
+
   sqlite3* handle() const { return handle_.get(); }
 
   /// Raises the run-time's failure for a result code of the engine.

@@ -20,36 +20,46 @@ Value stored(const Value& value, Kind kind) {
 Cursor::Cursor(std::shared_ptr<Connection> connection, std::string_view table,
                const std::vector<std::string>& columns)
     : connection_(std::move(connection)), table_(table) {
+  requireTable();
+  prepareWalk("*");
   readShape();
-  prepareWalk(columns);
+  if (!columns.empty()) narrowWalk(columns);
+  values_.resize(ordinals_.size());
 }
 
-void Cursor::readShape() {
+void Cursor::requireTable() const {
   const int code =
       sqlite3_table_column_metadata(connection_->handle(), "main", table_.c_str(), nullptr, nullptr,
                                     nullptr, nullptr, nullptr, nullptr);
   if (code == SQLITE_ERROR) raise(TableNotFound, table_);
   if (code != SQLITE_OK) connection_->raiseFailure(code);
-
-  const Statement all(*connection_, "SELECT * FROM " + sqlName(table_));
-  for (int column = 0; column < all.columnCount(); ++column) {
-    names_.push_back(all.columnName(column));
-    kinds_.push_back(all.columnKind(column));
-  }
 }
 
-void Cursor::prepareWalk(const std::vector<std::string>& columns) {
-  for (const auto& name : columns.empty() ? names_ : columns) ordinals_.push_back(ordinalOf(name));
+void Cursor::prepareWalk(const std::string& columns) {
+  walk_ = Statement(*connection_, "SELECT rowid, " + columns + " FROM " + sqlName(table_) +
+                                      " WHERE rowid >= ?1 ORDER BY rowid");
+}
 
-  std::string sql = "SELECT rowid";
-  slots_.assign(names_.size(), -1);
-  for (std::size_t slot = 0; slot < ordinals_.size(); ++slot) {
-    slots_[ordinals_[slot]] = static_cast<int>(slot);
-    sql += ", " + sqlName(names_[ordinals_[slot]]);
+void Cursor::readShape() {
+  for (int column = 1; column < walk_.columnCount(); ++column) {
+    names_.push_back(walk_.columnName(column));
+    kinds_.push_back(walk_.columnKind(column));
+    ordinals_.push_back(column - 1);
   }
-  sql += " FROM " + sqlName(table_) + " WHERE rowid >= ?1 ORDER BY rowid";
-  walk_ = Statement(*connection_, sql);
-  values_.resize(ordinals_.size());
+  slots_ = ordinals_;
+}
+
+void Cursor::narrowWalk(const std::vector<std::string>& columns) {
+  ordinals_.clear();
+  slots_.assign(names_.size(), -1);
+  std::string list;
+  for (const auto& name : columns) {
+    const int ordinal = ordinalOf(name);
+    slots_[ordinal] = static_cast<int>(ordinals_.size());
+    ordinals_.push_back(ordinal);
+    list += (list.empty() ? "" : ", ") + sqlName(name);
+  }
+  prepareWalk(list);
 }
 
 bool Cursor::seek(std::int64_t from) {

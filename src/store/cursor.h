@@ -70,8 +70,10 @@ class Cursor {
   enum class Pending { None, AddNew, Edit };
   using Assigned = std::vector<std::pair<int, Value>>;
 
+  void requireTable() const;
+  void prepareWalk(const std::string& columns);
   void readShape();
-  void prepareWalk(const std::vector<std::string>& columns);
+  void narrowWalk(const std::vector<std::string>& columns);
   void requireColumn(int ordinal) const;
   void requireRow() const;
   const Value* assigned(int ordinal) const;

@@ -17,8 +17,11 @@ Database Workspace::OpenDatabase(const std::string& path) {
   return Database(std::make_shared<Connection>(path, written_));
 }
 
+/// The last connection to a file takes its log with it when it closes, synced; only a log that is
+/// still there needs another one.
 void Workspace::settle() {
-  for (const auto& path : std::exchange(*written_, {})) Connection(path, written_).checkpoint();
+  for (const auto& path : std::exchange(*written_, {}))
+    if (Connection::hasLog(path)) Connection(path, written_).checkpoint();
 }
 
 Database::Database(std::shared_ptr<Connection> connection) : connection_(std::move(connection)) {}

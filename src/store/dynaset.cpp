@@ -1,5 +1,6 @@
 #include "store/dynaset.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/errors.h"
@@ -8,8 +9,10 @@ namespace nautrel {
 
 Dynaset::Dynaset(std::shared_ptr<Connection> connection, std::string_view table)
     : Cursor(std::move(connection), table, {}) {
-  Statement rows(*connection_, "SELECT rowid FROM " + sqlName(table_) + " ORDER BY rowid");
+  // Unordered, the engine reads the rows' numbers from the narrow index, a tenth of the walk.
+  Statement rows(*connection_, "SELECT rowid FROM " + sqlName(table_));
   while (rows.step()) rows_.push_back(rows.integer(0));
+  std::sort(rows_.begin(), rows_.end());
   if (rows_.empty())
     leave(Place::End);
   else

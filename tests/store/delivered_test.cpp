@@ -1,0 +1,67 @@
+#include <fstream>
+
+#include "store/store_test.h"
+
+namespace nautrel {
+namespace {
+
+class DeliveredTest : public StoreTest {};
+
+TEST_F(DeliveredTest, HoldsTheFourTablesAndTheirRows) {
+  struct Case {
+    std::string_view table;
+    int columns;
+    const char* first;
+    const char* last;
+    int rows;
+  };
+  const Case cases[] = {{Tabelle::Logbuch, 30, "Nr", "Grafik", 0},
+                        {Tabelle::Benutzer, 16, "Vorname", "Weitere", 1},
+                        {Tabelle::Ausrüstung, 9, "Gegenstand", "Preis", 0},
+                        {Tabelle::Statistik, 19, "Zeit_ges", "Deco", 1}};
+  for (const auto& item : cases) {
+    SCOPED_TRACE(item.table);
+    auto rows = table(item.table);
+    EXPECT_EQ(rows.FieldCount(), item.columns);
+    EXPECT_EQ(rows.FieldName(0), item.first);
+    EXPECT_EQ(rows.FieldName(item.columns - 1), item.last);
+    EXPECT_EQ(rows.RecordCount(), item.rows);
+    for (int column = 0; item.rows > 0 && column < item.columns; ++column)
+      EXPECT_EQ(rows.Fields(column), Value(""));
+  }
+}
+
+TEST_F(DeliveredTest, OrdinalsAndNamesHitTheSameColumn) {
+  addDives(1, 1);
+  auto dives = table();
+  dives.Edit();
+  dives.setField("Süß", true);
+  dives.setField("Höhe", "1200");
+  dives.setField("Grafik", "fish.jpg");
+  dives.Update();
+  EXPECT_TRUE(dives.Fields(Feld::Süß).isYes());
+  EXPECT_EQ(dives.Fields(23), Value("1200"));
+  EXPECT_EQ(dives.Fields(29), Value("fish.jpg"));
+}
+
+TEST_F(DeliveredTest, LeavesWhatIsThereAlone) {
+  addDives(1, 1);
+  EXPECT_FALSE(createDeliveredLogbook(path));
+  EXPECT_EQ(numbers(), "1");
+  const auto letter = folder / "letter";
+  std::ofstream(letter) << "Dear diver";
+  EXPECT_FALSE(createDeliveredLogbook(letter.string()));
+  EXPECT_EQ(std::filesystem::file_size(letter), 10U);
+}
+
+TEST_F(DeliveredTest, LeavesNothingElseBehind) {
+  EXPECT_EQ(failureOf([&] { createDeliveredLogbook((folder / "no" / "where").string()); }),
+            PathNotValid);
+  int files = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(folder))
+    files += entry.path().filename() == kLogbookFile ? 1 : 100;
+  EXPECT_EQ(files, 1);
+}
+
+}  // namespace
+}  // namespace nautrel

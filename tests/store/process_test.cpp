@@ -1,0 +1,238 @@
+#include "store/store_test.h"
+
+#if __has_include(<sys/wait.h>)
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <functional>
+#include <map>
+#include <random>
+
+#include "store/numbering.h"
+
+namespace nautrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Another process that runs a piece of the program and tells numbers on the way.
+class Child {
+ public:
+  using Tell = std::function<void(int)>;
+
+  explicit Child(const std::function<void(const Tell&)>& run) {
+    int ends[2];
+    if (pipe(ends) != 0) throw std::runtime_error("no pipe");
+    process_ = fork();
+    if (process_ == 0) {
+      close(ends[0]);
+      const auto tell = [&](int number) {
+        if (write(ends[1], &number, sizeof number) != sizeof number) _exit(2);
+      };
+      const int failure = failureOf([&] { run(tell); });
+      if (failure != 0) tell(-failure);
+      _exit(0);
+    }
+    close(ends[1]);
+    told_ = ends[0];
+  }
+  ~Child() { close(told_); }
+  Child(const Child&) = delete;
+  Child& operator=(const Child&) = delete;
+
+  void kill() { ::kill(process_, SIGKILL); }
+
+  /// Waits for the end; the last number that it told, 0 if none.
+  int wait() {
+    int number = 0;
+    while (read(told_, &number, sizeof number) == sizeof number) {
+    }
+    waitpid(process_, nullptr, 0);
+    return number;
+  }
+
+ private:
+  pid_t process_ = 0;
+  int told_ = 0;
+};
+
+void sleepAtMost(int milliseconds) {
+  static std::mt19937 random(std::random_device{}());
+  usleep(
+      static_cast<useconds_t>(std::uniform_int_distribution<int>(0, milliseconds * 1000)(random)));
+}
+
+/// Permissions bind only those who are not the administrator.
+void becomeDiver() {
+  constexpr int kNobody = 65534;
+  if (getuid() == 0 && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) _exit(3);
+}
+
+class ProcessTest : public StoreTest {
+ protected:
+  std::map<std::string, std::uintmax_t> files() const {
+    std::map<std::string, std::uintmax_t> sizes;
+    for (const auto& entry : fs::directory_iterator(folder))
+      sizes[entry.path().filename().string()] = entry.file_size();
+    return sizes;
+  }
+  std::string integrity() { return otherProgram("PRAGMA integrity_check"); }
+};
+
+TEST_F(ProcessTest, KilledWhileAppendingKeepsEveryAcknowledgedDive) {
+  int dives = 0;
+  for (int round = 0; round < 25; ++round) {
+    SCOPED_TRACE(round);
+    Child child([&](const Child::Tell& tell) {
+      Workspace own;
+      for (int number = dives + 1;; ++number) {
+        auto rows = own.OpenDatabase(path).OpenRecordset(Tabelle::Logbuch);
+        rows.AddNew();
+        rows.setField("Nr", number);
+        rows.setField("Lang", std::string(static_cast<std::size_t>(number % 50) * 400, 'l'));
+        rows.Update();
+        rows.Close();
+        own.settle();
+        tell(number);
+      }
+    });
+    sleepAtMost(30);
+    child.kill();
+    const int acknowledged = std::max(dives, child.wait());
+    ASSERT_EQ(integrity(), "ok");
+    dives = std::stoi(otherProgram("SELECT count(*) FROM Logbuch"));
+    ASSERT_GE(dives, acknowledged);
+    ASSERT_LE(dives, acknowledged + 1);
+    ASSERT_EQ(otherProgram("SELECT count(*) FROM Logbuch WHERE Nr = rowid AND "
+                           "length(Lang) = 400 * (Nr % 50)"),
+              std::to_string(dives));
+  }
+  EXPECT_GT(dives, 0);
+}
+
+TEST_F(ProcessTest, KilledWhileRenumberingLeavesTheFinishedSteps) {
+  constexpr int kDives = 600;
+  addDives(1, kDives);
+  int before = 1;
+  for (int round = 0; round < 25; ++round) {
+    SCOPED_TRACE(round);
+    const int after = before == 1 ? 1001 : 1;
+    Child child([&](const Child::Tell& tell) {
+      Workspace own;
+      renumber(own, path, after, [&](int step, int) { tell(step); });
+    });
+    sleepAtMost(15);
+    child.kill();
+    const int acknowledged = child.wait();
+    ASSERT_EQ(integrity(), "ok");
+    ASSERT_EQ(otherProgram("SELECT count(*) FROM Logbuch"), std::to_string(kDives));
+    const auto rows = [&](const std::string& which) {
+      return std::stoi(otherProgram("SELECT count(*) FROM Logbuch WHERE " + which));
+    };
+    const int done = rows("Nr - rowid = " + std::to_string(after - 1));
+    ASSERT_GE(done, acknowledged);
+    ASSERT_EQ(
+        rows("rowid > " + std::to_string(done) + " AND Nr - rowid = " + std::to_string(before - 1)),
+        kDives - done);
+    renumber(workspace, path, after);
+    before = after;
+  }
+}
+
+TEST_F(ProcessTest, TwoProgramsOnOneLogbookLoseNothing) {
+  const auto append = [&] {
+    Workspace own;
+    for (int dive = 0; dive < 150; ++dive) {
+      auto rows = own.OpenDatabase(path).OpenRecordset(Tabelle::Logbuch);
+      rows.AddNew();
+      rows.setField("Nr", dive);
+      rows.Update();
+      if (dive % 10 == 0) own.settle();
+    }
+  };
+  Child first([&](const Child::Tell&) { append(); });
+  Child second([&](const Child::Tell& tell) {
+    Workspace own;
+    for (int times = 0; times < 20; ++times) resumeNext([&] { renumber(own, path, 1); });
+    tell(1);
+  });
+  append();
+  EXPECT_EQ(first.wait(), 0);
+  EXPECT_EQ(second.wait(), 1);
+  EXPECT_EQ(table().RecordCount(), 300);
+  EXPECT_EQ(integrity(), "ok");
+}
+
+TEST_F(ProcessTest, OfManyWhoMakeTheLogbookOneSucceeds) {
+  const auto fresh = (folder / "fresh.mdb").string();
+  const auto make = [&](const Child::Tell& tell) { tell(createDeliveredLogbook(fresh) ? 1 : 0); };
+  Child one(make);
+  Child two(make);
+  Child three(make);
+  EXPECT_EQ(one.wait() + two.wait() + three.wait(), 1);
+  EXPECT_EQ(workspace.OpenDatabase(fresh).OpenRecordset(Tabelle::Benutzer).RecordCount(), 1);
+  EXPECT_EQ(files().size(), 2U);
+}
+
+TEST_F(ProcessTest, AReadOnlyFolderFailsAtOpening) {
+  addDives(1, 1);
+  fs::permissions(path, fs::perms::all);
+  fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
+                              fs::perms::others_exec);
+  const auto before = files();
+  Child child([&](const Child::Tell&) {
+    becomeDiver();
+    Workspace().OpenDatabase(path);
+  });
+  EXPECT_EQ(child.wait(), -CannotOpenFile);
+  EXPECT_EQ(files(), before);
+  fs::permissions(folder, fs::perms::owner_all);
+}
+
+TEST_F(ProcessTest, AReadOnlyFileIsReadAndNotWritten) {
+  addDives(1, 1);
+  fs::permissions(folder, fs::perms::all);
+  fs::permissions(path, fs::perms::owner_read | fs::perms::others_read);
+  const auto before = files();
+  for (const bool adding : {false, true}) {
+    Child child([&](const Child::Tell&) {
+      becomeDiver();
+      Workspace own;
+      auto dives = own.OpenDatabase(path).OpenDynaset(Tabelle::Logbuch);
+      adding ? dives.AddNew() : dives.Edit();
+    });
+    EXPECT_EQ(child.wait(), -DatabaseReadOnly);
+  }
+  EXPECT_EQ(files().at("Logbuch.mdb"), before.at("Logbuch.mdb"));
+}
+
+TEST_F(ProcessTest, AFullDiskLosesNoAcknowledgedDive) {
+  Child child([&](const Child::Tell& tell) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{400'000, 400'000};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    Workspace own;
+    auto rows = own.OpenDatabase(path).OpenRecordset(Tabelle::Logbuch);
+    for (int number = 1;; ++number) {
+      rows.AddNew();
+      rows.setField("Nr", number);
+      rows.setField("Lang", std::string(3000, 'l'));
+      const int failure = failureOf([&] { rows.Update(); });
+      if (failure == 0) continue;
+      tell(failure == DiskFull ? number - 1 : -failure);
+      return;
+    }
+  });
+  const int acknowledged = child.wait();
+  EXPECT_GT(acknowledged, 10);
+  EXPECT_EQ(integrity(), "ok");
+  EXPECT_EQ(table().RecordCount(), acknowledged);
+}
+
+}  // namespace
+}  // namespace nautrel
+
+#endif
