@@ -111,6 +111,7 @@ void Form::activate() {
   if (program_.active_ == this) return;
   program_.active_ = this;
   if (look_) look_->activate();
+  notifyLook();
 }
 
 void Form::notifyLook() {

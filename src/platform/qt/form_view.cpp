@@ -94,6 +94,7 @@ void FormView::flush() {
 }
 
 void FormView::repaintNow() {
+  if (std::exchange(formDirty_, false)) pushForm();
   for (std::size_t i = 0; i < bindings_.size(); ++i) {
     if (!bindings_[i]->dirty()) continue;
     bindings_[i]->push();
@@ -102,7 +103,8 @@ void FormView::repaintNow() {
 }
 
 void FormView::pushFocus() {
-  if (!form_.visible() || form_.activeControl() == nullptr) return;
+  // The focus of a window behind must not bring it to the front.
+  if (form_.program().activeForm() != &form_ || form_.activeControl() == nullptr) return;
   const auto* binding = bindingOf(*form_.activeControl());
   if (binding == nullptr || binding->widget() == nullptr) return;
   auto* widget = binding->widget();

@@ -25,6 +25,7 @@ namespace nautrel {
 namespace {
 
 constexpr int kRightButton = 2;
+constexpr int kHourglass = 11;
 
 /// The keys of the toolbar are words of the system; the icons' files keep to ASCII.
 QString iconName(const std::string& key) {
@@ -211,6 +212,19 @@ void MainFrame::controlChanged(Control& control) {
   formChanged();
 }
 
+// The hourglass is of use only while a handler runs, so it does not wait for its end.
+void MainFrame::formChanged() {
+  FormView::formChanged();
+  pushPointer();
+}
+
+void MainFrame::pushPointer() {
+  const bool wait = form_.MousePointer() == kHourglass;
+  if (wait == hourglass_) return;
+  hourglass_ = wait;
+  wait ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
+}
+
 void MainFrame::show() {
   auto& frame = static_cast<FrameWindow&>(*window_);
   formChanged();
@@ -254,12 +268,12 @@ void MainFrame::pushForm() {
   if (std::exchange(commandsDirty_, false)) pushCommands();
   window_->setWindowTitle(toQt(form_.caption()));
   panels_->setText(toQt(form_.StatusBar1.panelText(3)));
-  bottom_->setCurrentIndex(form_.Picture1.visible() ? 1 : 0);
-  area_->setGround(toQt(form_.BackColor()), form_.picture());
-  if (const bool wait = form_.MousePointer() == 11; wait != hourglass_) {
-    hourglass_ = wait;
-    wait ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
+  if (const int page = form_.Picture1.visible() ? 1 : 0; bottom_->currentIndex() != page) {
+    bottom_->setCurrentIndex(page);
+    bottom_->currentWidget()->setGeometry(bottom_->contentsRect());
+    bottom_->currentWidget()->layout()->activate();
   }
+  area_->setGround(toQt(form_.BackColor()), form_.picture());
   if (form_.windowState() != WindowState::Normal || window_->isMaximized()) return;
   const QSize chrome = window_->frameGeometry().size() - window_->size();
   const QSize size = QSize(toPixels(form_.Width()), toPixels(form_.Height())) - chrome;

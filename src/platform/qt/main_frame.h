@@ -45,6 +45,7 @@ class MainFrame : public FormView {
   void close() override;
   QWidget* root() const override;
   void controlChanged(Control& control) override;
+  void formChanged() override;
 
   QMdiArea& area() const { return *area_; }
   QMainWindow& window() const { return *window_; }
@@ -61,6 +62,7 @@ class MainFrame : public FormView {
   void makeStatus();
   void placeWindow();
   void pushCommands();
+  void pushPointer();
 
   MDIForm1& form_;
   QPointer<QMainWindow> window_;

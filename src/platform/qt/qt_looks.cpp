@@ -1,6 +1,10 @@
 #include "platform/qt/qt_looks.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTimer>
 #include <algorithm>
 
@@ -20,6 +24,7 @@ constexpr int kRepaintEvery = 40;  // milliseconds
 
 QtLooks::QtLooks(Program& program) : program_(program) {
   sinceRepaint_.start();
+  qApp->installEventFilter(this);
   connect(qApp, &QApplication::focusChanged, this,
           [this](QWidget*, QWidget* now) { focusMoved(now); });
 }
@@ -79,6 +84,28 @@ void QtLooks::repaintIfDue() {
   for (std::size_t i = 0; i < views_.size(); ++i) views_[i]->repaintNow();
   flushing_ = false;
   sinceRepaint_.restart();
+}
+
+namespace {
+
+bool pastesHere(const QObject& widget) {
+  if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) return !edit->isReadOnly();
+  if (const auto* edit = qobject_cast<const QPlainTextEdit*>(&widget)) return !edit->isReadOnly();
+  const auto* combo = qobject_cast<const QComboBox*>(&widget);
+  return combo != nullptr && combo->isEditable();
+}
+
+}  // namespace
+
+// A box keeps Ctrl+V for pasting, and leaves the menu every other command of its bar, also those
+// that the toolkit's boxes know a use of their own for.
+bool QtLooks::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::ShortcutOverride || frame_ == nullptr) return false;
+  const QKeySequence keys(static_cast<QKeyEvent*>(event)->keyCombination());
+  if (!frame_->isShortcut(keys)) return false;
+  if (keys == QKeySequence(Qt::CTRL | Qt::Key_V) && pastesHere(*watched)) return false;
+  event->ignore();
+  return true;
 }
 
 // Only what the user does counts: while a handler runs, or the screen follows a model, the focus

@@ -32,6 +32,9 @@ class QtLooks : public QObject, public Looks {
   void add(FormView& view);
   void remove(FormView& view);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void focusMoved(QWidget* now);
 
