@@ -91,8 +91,8 @@ void Connection::open(int flags) {
   handle_.reset(opened);
   if (code != SQLITE_OK) raiseFailure(code);
   sqlite3_busy_timeout(opened, kWaitForOthers);
-  Statement(*this, "PRAGMA synchronous = NORMAL")
-      .run();  // reads the file, and finds out what it is
+  // Reads the file for the first time, and so finds out whether it is a database.
+  Statement(*this, "PRAGMA synchronous = NORMAL").run();
 }
 
 void Connection::raiseFailure(int code) const {

@@ -220,6 +220,7 @@ void Cursor::prepareUpdate() {
   const bool same = std::equal(assigned_.begin(), assigned_.end(), updates_.begin(), updates_.end(),
                                [](const auto& one, int other) { return one.first == other; });
   if (update_ && same) return;
+  update_ = {};
   updates_.clear();
   std::string columns;
   for (const auto& [ordinal, value] : assigned_) {
