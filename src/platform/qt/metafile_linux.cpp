@@ -138,7 +138,10 @@ void restrain() {
   limit(RLIMIT_DATA, kMemory);
 }
 
-[[noreturn]] void writeAndLeave(int pipe, const QByteArray& bytes) {
+// Never returns and lets no exception through: there must not be a second program that goes on.
+[[noreturn]] void convertAndLeave(int pipe, const std::function<QByteArray()>& convert) noexcept {
+  restrain();
+  const QByteArray bytes = convert();
   for (qsizetype done = 0; done < bytes.size();) {
     const ssize_t written =
         write(pipe, bytes.constData() + done, static_cast<size_t>(bytes.size() - done));
@@ -167,10 +170,7 @@ QByteArray runApart(const std::function<QByteArray()>& convert) {
   int ends[2];
   if (pipe2(ends, O_CLOEXEC) != 0) return {};
   const pid_t child = fork();
-  if (child == 0) {
-    restrain();
-    writeAndLeave(ends[1], convert());
-  }
+  if (child == 0) convertAndLeave(ends[1], convert);
   close(ends[1]);
   QByteArray result;
   if (child > 0) {
