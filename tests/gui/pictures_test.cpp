@@ -97,7 +97,7 @@ bool isRed(const QColor& color) {
 class PicturesTest : public testing::Test {
  protected:
   QString write(const QString& name, const QByteArray& bytes) {
-    const QString path = folder_.filePath(name);
+    QString path = folder_.filePath(name);
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
