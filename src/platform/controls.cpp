@@ -339,7 +339,8 @@ void PictureBox::setBackColor(long color) {
 
 void PictureBox::userClick() {
   form().program().handle([this] {
-    if (enabled() && form().enabled()) raiseEvent(Click);
+    if (!canTakeFocus() || !form().enabled()) return;
+    if (takeFocus()) raiseEvent(Click);
   });
 }
 

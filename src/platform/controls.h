@@ -256,7 +256,8 @@ class Image : public Control {
   Picture picture_;
 };
 
-/// A coloured box that may hold controls and be clicked. A colour is 0x00BBGGRR.
+/// A coloured box that may hold controls. One that answers a click takes the focus too, and Space
+/// presses it. A colour is 0x00BBGGRR.
 class PictureBox : public Frame {
  public:
   PictureBox(Form& form, std::string name, long backColor = 0xC0C0C0);
@@ -265,6 +266,7 @@ class PictureBox : public Frame {
 
   Event Click;
   void userClick();
+  bool takesFocus() const override { return Click != nullptr; }
 
  private:
   long backColor_;

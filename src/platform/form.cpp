@@ -205,6 +205,7 @@ void Form::userKey(Key key) {
         if (auto* button = dynamic_cast<Button*>(focused)) button->userClick();
         if (auto* check = dynamic_cast<CheckBox*>(focused)) check->userClick();
         if (auto* option = dynamic_cast<OptionButton*>(focused)) option->userClick();
+        if (auto* picture = dynamic_cast<PictureBox*>(focused)) picture->userClick();
         return;
     }
   });

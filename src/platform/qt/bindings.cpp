@@ -16,6 +16,7 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/qt/binding.h"
+#include "platform/qt/color_sample.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/list_binding.h"
 #include "platform/qt/navigator_bar.h"
@@ -173,6 +174,22 @@ class PictureBoxBinding : public Binding {
 
  private:
   PictureBox& box_;
+};
+
+class ColorBinding : public Binding {
+ public:
+  ColorBinding(PictureBox& box, ColorSample& sample)
+      : Binding(box, sample), box_(box), sample_(sample) {
+    sample.setFocusPolicy(Qt::TabFocus);
+    connect(&sample, &ColorSample::clicked, this, [this] { box_.userClick(); });
+  }
+
+ protected:
+  void pushContent() override { sample_.setColor(toQt(box_.BackColor())); }
+
+ private:
+  PictureBox& box_;
+  ColorSample& sample_;
 };
 
 class ButtonBinding : public Binding {
@@ -409,6 +426,7 @@ std::unique_ptr<Binding> bind(Control& control, QWidget& widget) {
          tryBind<NavigatorBinding, Navigator, NavigatorBar>(control, widget, made) ||
          tryBind<ImageBinding, Image, PictureView>(control, widget, made) ||
          tryBind<ProgressBinding, ProgressBar, QProgressBar>(control, widget, made) ||
+         tryBind<ColorBinding, PictureBox, ColorSample>(control, widget, made) ||
          tryBind<PictureBoxBinding, PictureBox, QWidget>(control, widget, made) ||
          tryBind<GroupBinding, Frame, QGroupBox>(control, widget, made) ||
          tryBind<PlainBinding, Frame, QWidget>(control, widget, made) ||
