@@ -1,6 +1,7 @@
 #include "platform/qt/child_window.h"
 
 #include <QCloseEvent>
+#include <QLayout>
 #include <QMdiArea>
 
 #include "platform/qt/convert.h"
@@ -63,6 +64,8 @@ ChildWindow::ChildWindow(QtLooks& looks, Form& form) : FormView(looks, form) {
   if (auto* frame = looks.mainFrame()) frame->area().addSubWindow(window_, window_->windowFlags());
   bindControls();
   flush();
+  // Captions that the controls have just brought in do not reach the layouts of a hidden window.
+  for (auto* layout : window_->findChildren<QLayout*>()) layout->invalidate();
   const QSize size = window_->sizeHint();
   window_->following = true;
   if (sizable)
