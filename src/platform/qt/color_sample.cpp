@@ -17,7 +17,7 @@ void ColorSample::setColor(const QColor& color) {
 
 void ColorSample::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setPen(palette().color(isDown() ? QPalette::Highlight : QPalette::Mid));
+  painter.setPen(palette().color(isDown() ? QPalette::Highlight : QPalette::Dark));
   painter.setBrush(color_);
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
   if (!hasFocus()) return;
