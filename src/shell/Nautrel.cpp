@@ -2,6 +2,8 @@
 
 #include <filesystem>
 
+#include "diver/Form15.h"
+#include "diver/Form7.h"
 #include "dives/Form2.h"
 #include "dives/Form3.h"
 #include "shell/Form1.h"
@@ -34,6 +36,12 @@ class Form2& Nautrel::Form2() {
 class Form3& Nautrel::Form3() {
   return window<class Form3>(3);
 }
+class Form7& Nautrel::Form7() {
+  return window<class Form7>(7);
+}
+class Form15& Nautrel::Form15() {
+  return window<class Form15>(15);
+}
 
 void Nautrel::show(int number) {
   switch (number) {
@@ -41,6 +49,10 @@ void Nautrel::show(int number) {
       return Form2().Show();
     case 3:
       return Form3().Show();
+    case 7:
+      return Form7().Show();
+    case 15:
+      return Form15().Show();
     default:
       return;
   }

@@ -11,6 +11,8 @@ namespace nautrel {
 class Form1;
 class Form2;
 class Form3;
+class Form7;
+class Form15;
 class MDIForm1;
 class Modul1;
 
@@ -31,6 +33,8 @@ class Nautrel : public Program {
   class Form1& Form1();
   class Form2& Form2();
   class Form3& Form3();
+  class Form7& Form7();
+  class Form15& Form15();
 
   /// Loads and shows the child window of that number.
   void show(int number);

@@ -2,8 +2,10 @@
 
 #include <utility>
 
+#include "ui_Form15.h"
 #include "ui_Form2.h"
 #include "ui_Form3.h"
+#include "ui_Form7.h"
 
 namespace nautrel {
 namespace {
@@ -20,6 +22,8 @@ using Builder = QWidget* (*)();
 constexpr std::pair<std::string_view, Builder> kForms[] = {
     {"Form2", build<Ui::Form2>},
     {"Form3", build<Ui::Form3>},
+    {"Form7", build<Ui::Form7>},
+    {"Form15", build<Ui::Form15>},
 };
 
 }  // namespace

@@ -1,0 +1,129 @@
+#include "diver/Form7.h"
+
+#include "platform/errors.h"
+#include "support/logbook.h"
+
+namespace nautrel {
+namespace {
+
+using Texts = std::vector<std::string>;
+using Rows = std::vector<Texts>;
+
+const Columns kColumns{"Vorname", "Nachname", "Straße", "Plz", "Ort",   "Land",  "Tel",  "Fax",
+                       "Email",   "Geb",      "Cerdat", "Org", "Level", "Cernr", "Inst", "Weitere"};
+const Texts kCard{"Anna",      "Müller",   "Seestraße 5", "88131-Lindau-am-Bodensee-0",
+                  "Lindau",    "Germany",  "08382 1",     "08382 2",
+                  "a@b.de",    "1.5.1970", "12/2000",     "Reef Club",
+                  "Two stars", "D-77",     "B. Meier",    "Allergic to nothing"};
+
+class PersonalInformation : public LogbookTest {
+ protected:
+  Form7& open() {
+    if (!app->loaded(0)) start();
+    click(app->MDIForm1().Menü1b);
+    return app->Form7();
+  }
+  /// The boxes in the order of the columns; null where the organization stands.
+  static std::vector<TextBox*> boxes(Form7& form) {
+    return {&form.Text1,  &form.Text2,  &form.Text3,  &form.Text4,  &form.Text5,  &form.Text6,
+            &form.Text7,  &form.Text8,  &form.Text9,  &form.Text10, &form.Text11, nullptr,
+            &form.Text12, &form.Text13, &form.Text14, &form.Text15};
+  }
+  static Texts shown(Form7& form) {
+    Texts texts;
+    for (const auto* box : boxes(form))
+      texts.push_back(box != nullptr ? box->text() : form.Combo1.text());
+    return texts;
+  }
+  static void fill(Form7& form, const Texts& card) {
+    std::size_t i = 0;
+    for (auto* box : boxes(form)) {
+      if (box != nullptr)
+        type(*box, card[i]);
+      else
+        type(form.Combo1, card[i]);
+      ++i;
+    }
+  }
+};
+
+TEST_F(PersonalInformation, TheDeliveredCardIsEmptyAndTakesWhatIsSaved) {
+  auto& form = open();
+  EXPECT_EQ(form.caption(), "Personal information");
+  EXPECT_EQ(shown(form), Texts(16, ""));
+  EXPECT_EQ(form.activeControl(), &form.Text1);
+  EXPECT_EQ(form.Combo1.lines(), (Texts{"CMAS", "PADI", "PDIC", "SSI", "VDST"}));
+  fill(form, kCard);
+  click(form.Command1);
+  EXPECT_EQ(desktop->texts(), Texts{});
+  EXPECT_EQ(rows("Benutzer", kColumns), Rows{kCard});
+  EXPECT_EQ(form.caption(), "Personal information for Anna Müller");
+
+  press(form, Key::Escape);
+  EXPECT_FALSE(app->loaded(7));
+  auto& again = open();
+  EXPECT_EQ(shown(again), kCard);
+  EXPECT_EQ(again.caption(), "Personal information for Anna Müller");
+}
+
+TEST_F(PersonalInformation, OneSaveForEachOpening) {
+  auto& form = open();
+  type(form.Text2, "Meier");
+  click(form.Command1);
+  EXPECT_FALSE(form.Command1.enabled());
+  EXPECT_EQ(form.caption(), "Personal information") << "no first name";
+  type(form.Text1, "Anna");
+  EXPECT_FALSE(form.Command1.enabled());
+  click(form.Command1);
+  EXPECT_EQ(rows("Benutzer", {"Vorname", "Nachname"}), (Rows{{"", "Meier"}}));
+  close(form);
+  EXPECT_EQ(open().Text1.text(), "");
+  EXPECT_TRUE(app->Form7().Command1.enabled());
+}
+
+TEST_F(PersonalInformation, BoxesTakeWhatTheirColumnsHold) {
+  auto& form = open();
+  const std::string longText(300, 'x');
+  for (auto* box : boxes(form))
+    if (box != nullptr) paste(*box, longText);
+  const auto size = [](const TextBox& box) { return box.text().size(); };
+  EXPECT_EQ(size(form.Text4), 300u);
+  EXPECT_EQ(size(form.Text10), 10u);
+  EXPECT_EQ(size(form.Text11), 10u);
+  EXPECT_EQ(size(form.Text15), 255u);
+  for (const auto* box :
+       {&form.Text1, &form.Text2, &form.Text3, &form.Text5, &form.Text6, &form.Text7, &form.Text8,
+        &form.Text9, &form.Text12, &form.Text13, &form.Text14})
+    EXPECT_EQ(size(*box), 20u) << box->name();
+}
+
+TEST_F(PersonalInformation, PrintsTheStoredCardOnYesAlone) {
+  auto& form = open();
+  type(form.Text1, "unsaved");
+  desktop->answer(kNo).answer(kYes);
+  click(form.Command3);
+  EXPECT_TRUE(desktop->reports.empty());
+  click(form.Command3);
+  const Shown question{"Print now?", 292, "Print personal information"};
+  EXPECT_EQ(desktop->messages(), (std::vector<Shown>{question, question}));
+  ASSERT_EQ(desktop->reports.size(), 1u);
+  EXPECT_EQ(desktop->reports[0].templatePath, folder.file("Benutzer.rpt"));
+  EXPECT_EQ(desktop->reports[0].destination, ReportDestination::Printer);
+  EXPECT_EQ(desktop->reports[0].selectionFormula, "");
+  EXPECT_NE(rows("Benutzer", {"Vorname"}), Rows{{"unsaved"}});
+}
+
+TEST_F(PersonalInformation, ATableWithoutItsRowEndsTheProgramOnSaving) {
+  {
+    Workspace workspace;
+    workspace.OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset("Benutzer").Delete();
+  }
+  auto& form = open();
+  EXPECT_EQ(shown(form), Texts(16, ""));
+  click(form.Command1);
+  ASSERT_TRUE(desktop->failure());
+  EXPECT_EQ(desktop->failure()->number, NoCurrentRecord);
+}
+
+}  // namespace
+}  // namespace nautrel
