@@ -4,13 +4,13 @@
 #include <utility>
 
 #include "platform/errors.h"
+#include "shell/Form18.h"
 #include "shell/Modul1.h"
 #include "shell/Nautrel.h"
 
 namespace nautrel {
 namespace {
 
-constexpr long kGrey = 12632256;
 constexpr int kMostDives = 9999;
 constexpr const char* kMenuRefusal = "Die Datenbank kann nicht mehr als 9999 Tauchgänge aufnehmen";
 constexpr const char* kToolbarRefusal =
@@ -140,38 +140,38 @@ void MDIForm1::Form_Load() {
   shared.LogbuchPruefen();
   if (shared.LogbuchLeer) shared.MenuesSperren();
   shared.StatusAktualisieren();
-  applySettings();
+  applySize();
+  applyBackground();
   Show();
   shared.Startfenster();
 }
 
-void MDIForm1::applySettings() {
+void MDIForm1::applySize() {
   const auto start = [this](const char* key) { return desktop().GetSetting("Start", key); };
   const auto twips = [&](const char* key) {
     return static_cast<double>(static_cast<float>(number(start(key))));
   };
-  if (start("Fenster") == "Ben") {
-    setWindowState(WindowState::Normal);
-    setWidth(twips("Breite"));
-    setHeight(twips("Höhe"));
-    setLeft(twips("Links"));
-    setTop(twips("Oben"));
-  }
+  if (start("Fenster") != "Ben") return;
+  setWindowState(WindowState::Normal);
+  setWidth(twips("Breite"));
+  setHeight(twips("Höhe"));
+  setLeft(twips("Links"));
+  setTop(twips("Oben"));
+}
+
+void MDIForm1::applyBackground() {
   try {
     setBackColor(toInt32(number(desktop().GetSetting("Colors", "Main"))));
   } catch (const RunTimeError&) {
-    setBackColor(kGrey);
-    return;
+    return setBackColor(kStandardColor);
   }
-  try {
-    setPicture(desktop().LoadPicture(start("Grafic")));
-  } catch (const RunTimeError&) {
-    setPicture({});
-  }
+  resumeNext([&] { setPicture(desktop().LoadPicture(desktop().GetSetting("Start", "Grafic"))); });
 }
 
 void MDIForm1::Form_Resize() {
-  app_.Modul1().StatusAktualisieren();
+  auto& shared = app_.Modul1();
+  shared.StatusAktualisieren();
+  if (shared.EinstellungenOffen && app_.Form18().Option2.on()) app_.Form18().showFrameSize();
 }
 
 void MDIForm1::MDIForm_MouseUp(int button) {

@@ -10,6 +10,9 @@ namespace nautrel {
 
 class Nautrel;
 
+/// The main window's background as long as no setting says otherwise.
+inline constexpr long kStandardColor = 0xC0C0C0;
+
 /// The main window: it frames all others and hands every command to the window that carries it
 /// out.
 class MDIForm1 : public Form {
@@ -26,6 +29,9 @@ class MDIForm1 : public Form {
   void setBackColor(long color);
   const nautrel::Picture& picture() const { return picture_; }
   void setPicture(nautrel::Picture picture);
+  /// Colour and picture by the settings. Without a usable colour it is the standard one, and the
+  /// picture is left alone; so it is when the setting's picture cannot be loaded.
+  void applyBackground();
   /// 0 default, 11 hourglass.
   int MousePointer() const { return mousePointer_; }
   void setMousePointer(int pointer);
@@ -114,10 +120,10 @@ class MDIForm1 : public Form {
   void command(int number);
   void showBeside(int number);
   void insertDive(const char* refusal);
-  void applySettings();
+  void applySize();
 
   Nautrel& app_;
-  long backColor_ = 0xC0C0C0;
+  long backColor_ = kStandardColor;
   nautrel::Picture picture_;
   int mousePointer_ = 0;
 };

@@ -1,0 +1,265 @@
+#include "shell/Form18.h"
+
+#include "platform/errors.h"
+#include "support/logbook.h"
+
+namespace nautrel {
+namespace {
+
+using Texts = std::vector<std::string>;
+using Settings = std::map<std::pair<std::string, std::string>, std::string>;
+
+constexpr long kGrey = 12632256;
+
+class Preferences : public LogbookTest {
+ protected:
+  Form18& open() {
+    start();
+    return reopen();
+  }
+  Form18& reopen() {
+    click(app->MDIForm1().Menü1g);
+    return app->Form18();
+  }
+  Form18& openStartPage() {
+    auto& form = open();
+    choose(form.SSTab1, 1);
+    return form;
+  }
+  static Texts values(const Form18& form) {
+    return {form.Label4.caption(), form.Label5.caption(), form.Label6.caption(),
+            form.Label7.caption()};
+  }
+  static bool sizeEnabled(const Form18& form) {
+    int enabled = 0;
+    for (const auto* label : {&form.Label4, &form.Label5, &form.Label6, &form.Label7, &form.Label8,
+                              &form.Label9, &form.Label10, &form.Label11})
+      enabled += label->enabled() ? 1 : 0;
+    EXPECT_TRUE(enabled == 0 || enabled == 8) << enabled;
+    return enabled == 8;
+  }
+  std::string& setting(const char* section, const char* key) {
+    return desktop->settings[{section, key}];
+  }
+  MDIForm1& frame() { return app->MDIForm1(); }
+};
+
+TEST_F(Preferences, TheFirstRunShowsTheDesign) {
+  auto& form = open();
+  EXPECT_EQ(form.Picture1.BackColor(), kGrey);
+  EXPECT_EQ(form.Combo1.text(), "");
+  EXPECT_EQ(form.Text1.text(), "");
+  EXPECT_TRUE(form.Option1.on());
+  EXPECT_FALSE(sizeEnabled(form));
+  EXPECT_EQ(values(form), Texts(4, "---"));
+  EXPECT_FALSE(form.Command4.enabled());
+  click(form.Command3);
+  EXPECT_FALSE(app->loaded(18));
+  EXPECT_EQ(desktop->settings, (Settings{{{"Colors", "Main"}, "12632256"},
+                                         {{"Start", "Window"}, ""},
+                                         {{"Start", "Fenster"}, "Max"},
+                                         {{"Start", "Grafic"}, ""}}));
+}
+
+TEST_F(Preferences, WhatIsSavedComesBack) {
+  auto& form = open();
+  const auto picture = folder.write("sea.bmp", "picture");
+  desktop->answerColor(255).answerFile(picture);
+  focus(form.Picture1);
+  press(form, Key::Space);
+  click(form.Command5);
+  EXPECT_EQ(desktop->dialogs.back().title, "Load background image");
+  EXPECT_EQ(desktop->dialogs.back().flags, 4);
+  choose(form.SSTab1, 1);
+  choose(form.Combo1, 17);
+  click(form.Option2);
+  EXPECT_EQ(pathOf(frame().picture()), "");
+  click(form.Command4);
+  EXPECT_EQ(pathOf(frame().picture()), picture);
+  EXPECT_FALSE(form.Command4.enabled());
+  EXPECT_EQ(desktop->settings, (Settings{{{"Colors", "Main"}, "255"},
+                                         {{"Start", "Window"}, "Calculations"},
+                                         {{"Start", "Fenster"}, "Ben"},
+                                         {{"Start", "Breite"}, "15360"},
+                                         {{"Start", "Höhe"}, "11520"},
+                                         {{"Start", "Links"}, "0"},
+                                         {{"Start", "Oben"}, "0"},
+                                         {{"Start", "Grafic"}, picture}}));
+  close(form);
+  auto& again = reopen();
+  EXPECT_EQ(again.Picture1.BackColor(), 255);
+  EXPECT_EQ(again.Combo1.text(), "Calculations");
+  EXPECT_EQ(again.Text1.text(), picture);
+  EXPECT_TRUE(again.Option2.on());
+  EXPECT_TRUE(sizeEnabled(again));
+  EXPECT_EQ(values(again), (Texts{"15360", "11520", "0", "0"}));
+  EXPECT_FALSE(again.Command4.enabled());
+}
+
+struct Edit {
+  const char* what;
+  int page;
+  std::function<void(Form18&)> make;
+};
+
+class SaveChanges : public Preferences, public ::testing::WithParamInterface<Edit> {};
+
+TEST_P(SaveChanges, IsFreeAfterAnEdit) {
+  setting("Start", "Fenster") = GetParam().what == std::string("Max") ? "Ben" : "";
+  for (const auto* key : {"Breite", "Höhe", "Links", "Oben"}) setting("Start", key) = "9000";
+  auto& form = open();
+  ASSERT_FALSE(form.Command4.enabled());
+  choose(form.SSTab1, GetParam().page);
+  if (GetParam().what == std::string("color")) desktop->answerColor(1);
+  GetParam().make(form);
+  EXPECT_TRUE(form.Command4.enabled());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Edits, SaveChanges,
+    ::testing::Values(Edit{"window", 1, [](Form18& form) { choose(form.Combo1, 3); }},
+                      Edit{"path", 0, [](Form18& form) { type(form.Text1, "x"); }},
+                      Edit{"reset", 0, [](Form18& form) { click(form.Command2); }},
+                      Edit{"color", 0, [](Form18& form) { form.Picture1.userClick(); }},
+                      Edit{"Max", 1, [](Form18& form) { click(form.Option1); }},
+                      Edit{"Free size", 1, [](Form18& form) { click(form.Option2); }}),
+    [](const auto& edit) {
+      std::string name(edit.param.what);
+      std::erase(name, ' ');
+      return name;
+    });
+
+TEST_F(Preferences, ADialogThatIsCancelledChangesNothing) {
+  auto& form = open();
+  desktop->answerColor({}).answerFile({});
+  form.Picture1.userClick();
+  click(form.Command5);
+  EXPECT_EQ(form.Picture1.BackColor(), kGrey);
+  EXPECT_EQ(form.Text1.text(), "");
+  EXPECT_FALSE(form.Command4.enabled());
+}
+
+TEST_F(Preferences, TheSizeFollowsAPressAndTheMainWindow) {
+  auto& form = openStartPage();
+  frame().userResized(150, 300, 12000, 9000);
+  EXPECT_EQ(values(form), Texts(4, "---"));
+  focus(form.Option1);
+  press(form, Key::Down);
+  EXPECT_TRUE(form.Option2.on());
+  EXPECT_EQ(values(form), Texts(4, "---"));
+  EXPECT_FALSE(sizeEnabled(form));
+  press(form, Key::Space);
+  EXPECT_EQ(values(form), (Texts{"12000", "9000", "150", "300"}));
+  EXPECT_TRUE(sizeEnabled(form));
+  frame().userResized(165, 315, 12015, 9015);
+  EXPECT_EQ(values(form), (Texts{"12015", "9015", "165", "315"}));
+  press(form, Key::Up);
+  EXPECT_EQ(values(form), Texts(4, "---"));
+  EXPECT_FALSE(sizeEnabled(form));
+}
+
+TEST_F(Preferences, AnArrowKeyAloneSavesNoSizeUntilAResize) {
+  auto& form = openStartPage();
+  focus(form.Option1);
+  press(form, Key::Down);
+  frame().userResized(15, 30, 12000, 9000);
+  EXPECT_EQ(values(form), (Texts{"12000", "9000", "15", "30"}));
+  close(form);
+  EXPECT_FALSE(app->Modul1().EinstellungenOffen);
+  frame().userResized(0, 0, 10000, 8000);
+  EXPECT_FALSE(app->loaded(18));
+}
+
+struct CancelCase {
+  const char* color;
+  const char* grafic;
+  long colorAfter;
+  const char* pictureAfter;
+};
+
+class CancelPreview : public Preferences, public ::testing::WithParamInterface<CancelCase> {};
+
+// The picture of a path that is gone stays as it is, and so does any under a colour that is none.
+TEST_P(CancelPreview, PutsColorAndPictureBack) {
+  auto& form = open();
+  folder.write("new.bmp", "picture");
+  folder.write("old.bmp", "picture");
+  desktop->answerColor(77);
+  form.Picture1.userClick();
+  EXPECT_EQ(frame().BackColor(), 77);
+  type(form.Text1, folder.file("new.bmp"));
+  click(form.Command4);
+  setting("Colors", "Main") = GetParam().color;
+  setting("Start", "Grafic") = folder.file(GetParam().grafic);
+  press(form, Key::Escape);
+  EXPECT_FALSE(app->loaded(18));
+  EXPECT_EQ(frame().BackColor(), GetParam().colorAfter);
+  EXPECT_EQ(pathOf(frame().picture()), folder.file(GetParam().pictureAfter));
+}
+
+INSTANTIATE_TEST_SUITE_P(Settings, CancelPreview,
+                         ::testing::Values(CancelCase{"128", "old.bmp", 128, "old.bmp"},
+                                           CancelCase{"", "old.bmp", kGrey, "new.bmp"},
+                                           CancelCase{"red", "old.bmp", kGrey, "new.bmp"},
+                                           CancelCase{"9999999999", "old.bmp", kGrey, "new.bmp"},
+                                           CancelCase{"128", "gone.bmp", 128, "new.bmp"}));
+
+TEST_F(Preferences, APathThatCannotBeLoadedEndsTheProgramAfterTheSettings) {
+  auto& form = open();
+  type(form.Text1, "gone.bmp");
+  click(form.Command3);
+  ASSERT_TRUE(desktop->failure());
+  EXPECT_EQ(desktop->failure()->number, FileNotFound);
+  EXPECT_EQ(setting("Start", "Grafic"), "gone.bmp");
+  EXPECT_EQ(setting("Colors", "Main"), "12632256");
+}
+
+struct Rubbish {
+  Settings settings;
+  long color;
+  const char* window;
+  bool free;
+};
+
+class EditedByHand : public Preferences, public ::testing::WithParamInterface<Rubbish> {};
+
+TEST_P(EditedByHand, LeavesTheControlsAsTheyWere) {
+  for (const auto& [key, value] : GetParam().settings) desktop->settings[key] = value;
+  auto& form = open();
+  EXPECT_EQ(frame().BackColor(), GetParam().color);
+  EXPECT_EQ(form.Picture1.BackColor(), GetParam().color);
+  EXPECT_EQ(form.Combo1.text(), GetParam().window);
+  EXPECT_EQ(form.Option2.on(), GetParam().free);
+  EXPECT_EQ(frame().windowState(), GetParam().free ? WindowState::Normal : WindowState::Maximized);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Settings, EditedByHand,
+    ::testing::Values(
+        Rubbish{{{{"Colors", "Main"}, "blue"}, {{"Start", "Window"}, "calculations"}},
+                kGrey,
+                "",
+                false},
+        Rubbish{{{{"Start", "Fenster"}, "ben"}, {{"Start", "Breite"}, "wide"}}, kGrey, "", false},
+        Rubbish{{{{"Colors", "Main"}, " 255 "}, {{"Start", "Window"}, "<no>"}}, 255, "<no>", false},
+        Rubbish{{{{"Start", "Fenster"}, "Ben"},
+                 {{"Start", "Breite"}, "12000"},
+                 {{"Start", "Höhe"}, "9e3"},
+                 {{"Start", "Links"}, "-10"},
+                 {{"Start", "Oben"}, "0"},
+                 {{"Start", "Grafic"}, "no such file"}},
+                kGrey,
+                "",
+                true}));
+
+TEST_F(Preferences, AFreeSizeThatIsNoNumberEndsTheProgram) {
+  for (const auto* key : {"Breite", "Höhe", "Links", "Oben"}) setting("Start", key) = "9000";
+  setting("Start", "Fenster") = "Ben";
+  setting("Start", "Höhe") = "";
+  start();
+  ASSERT_TRUE(desktop->failure());
+  EXPECT_EQ(desktop->failure()->number, TypeMismatch);
+}
+
+}  // namespace
+}  // namespace nautrel
