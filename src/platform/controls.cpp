@@ -344,6 +344,14 @@ void PictureBox::userClick() {
   });
 }
 
+Shape::Shape(Form& form, std::string name, double size, Place place)
+    : Control(form, std::move(name)), size_(size), place_(place) {}
+
+void Shape::setTop(double top) {
+  place_.top = top;
+  changed();
+}
+
 void ProgressBar::setMax(double max) {
   if (max <= 0) raise(InvalidPropertyValue);
   max_ = max;

@@ -272,6 +272,25 @@ class PictureBox : public Frame {
   long backColor_;
 };
 
+/// A circle in a container, moved by rule: its place from the container's corner and its diameter
+/// in twips.
+class Shape : public Control {
+ public:
+  struct Place {
+    double left = 0;
+    double top = 0;
+  };
+  Shape(Form& form, std::string name, double size, Place place);
+  double Left() const { return place_.left; }
+  double Top() const { return place_.top; }
+  double Size() const { return size_; }
+  void setTop(double top);
+
+ private:
+  double size_;
+  Place place_;
+};
+
 class ProgressBar : public Control {
  public:
   using Control::Control;

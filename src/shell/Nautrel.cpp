@@ -7,6 +7,7 @@
 #include "dives/Form2.h"
 #include "dives/Form3.h"
 #include "shell/Form1.h"
+#include "shell/Form16.h"
 #include "shell/Form18.h"
 #include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
@@ -43,6 +44,9 @@ class Form7& Nautrel::Form7() {
 class Form15& Nautrel::Form15() {
   return window<class Form15>(15);
 }
+class Form16& Nautrel::Form16() {
+  return window<class Form16>(16);
+}
 class Form18& Nautrel::Form18() {
   return window<class Form18>(18);
 }
@@ -57,6 +61,8 @@ void Nautrel::show(int number) {
       return Form7().Show();
     case 15:
       return Form15().Show();
+    case 16:
+      return Form16().Show();
     case 18:
       return Form18().Show();
     default:

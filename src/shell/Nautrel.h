@@ -13,6 +13,7 @@ class Form2;
 class Form3;
 class Form7;
 class Form15;
+class Form16;
 class Form18;
 class MDIForm1;
 class Modul1;
@@ -36,6 +37,7 @@ class Nautrel : public Program {
   class Form3& Form3();
   class Form7& Form7();
   class Form15& Form15();
+  class Form16& Form16();
   class Form18& Form18();
 
   /// Loads and shows the child window of that number.

@@ -16,6 +16,7 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/qt/binding.h"
+#include "platform/qt/bubble_view.h"
 #include "platform/qt/color_sample.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/list_binding.h"
@@ -190,6 +191,21 @@ class ColorBinding : public Binding {
  private:
   PictureBox& box_;
   ColorSample& sample_;
+};
+
+class ShapeBinding : public Binding {
+ public:
+  ShapeBinding(Shape& shape, BubbleView& view) : Binding(shape, view), shape_(shape), view_(view) {}
+
+ protected:
+  void pushContent() override {
+    const int size = toPixels(shape_.Size());
+    view_.setGeometry(toPixels(shape_.Left()), toPixels(shape_.Top()), size, size);
+  }
+
+ private:
+  Shape& shape_;
+  BubbleView& view_;
 };
 
 class ButtonBinding : public Binding {
@@ -425,6 +441,7 @@ std::unique_ptr<Binding> bind(Control& control, QWidget& widget) {
          tryBind<SpinBinding, SpinButton, SpinArrows>(control, widget, made) ||
          tryBind<NavigatorBinding, Navigator, NavigatorBar>(control, widget, made) ||
          tryBind<ImageBinding, Image, PictureView>(control, widget, made) ||
+         tryBind<ShapeBinding, Shape, BubbleView>(control, widget, made) ||
          tryBind<ProgressBinding, ProgressBar, QProgressBar>(control, widget, made) ||
          tryBind<ColorBinding, PictureBox, ColorSample>(control, widget, made) ||
          tryBind<PictureBoxBinding, PictureBox, QWidget>(control, widget, made) ||

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "ui_Form15.h"
+#include "ui_Form16.h"
 #include "ui_Form18.h"
 #include "ui_Form2.h"
 #include "ui_Form3.h"
@@ -22,7 +23,7 @@ QWidget* build() {
 using Builder = QWidget* (*)();
 constexpr std::pair<std::string_view, Builder> kForms[] = {
     {"Form2", build<Ui::Form2>},   {"Form3", build<Ui::Form3>},   {"Form7", build<Ui::Form7>},
-    {"Form15", build<Ui::Form15>}, {"Form18", build<Ui::Form18>},
+    {"Form15", build<Ui::Form15>}, {"Form16", build<Ui::Form16>}, {"Form18", build<Ui::Form18>},
 };
 
 }  // namespace

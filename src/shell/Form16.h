@@ -1,0 +1,57 @@
+#pragma once
+
+#include <array>
+
+#include "platform/controls.h"
+#include "platform/form.h"
+
+namespace nautrel {
+
+class Nautrel;
+
+/// The information window: what this system is and what it stands on. Its texts stand reversed in
+/// the labels and are turned round when it opens; the timer lets bubbles rise beside them.
+class Form16 : public Form {
+ public:
+  using App = Nautrel;
+  explicit Form16(Nautrel& app);
+
+  void Form_Load() override;
+  void Picture1_Click();
+  void Timer1_Timer();
+  void Command1_Click();
+
+  /// Each of them turns one label round.
+  /// @{
+  void Name();
+  void Zweck();
+  void Logbuch();
+  void Bausteine();
+  void Hinweis();
+  /// @}
+
+  PictureBox Picture1{*this, "Picture1", 0x5A3A0F};
+  Label Label1{*this, "Label1", "0.2 lertuaN"};
+  Label Label2{*this, "Label2", "srevid abucs rof koobgol potksed A"};
+  Label Label3{*this, "Label3",
+               ".margorp eht ediseb ,bdm.hcubgoL\n"
+               ",elif eno ni dnats sevid ruoy llA"};
+  Label Label4{*this, "Label4",
+               ".)serutcip elifatem( gvs2fmebil\n"
+               "dna fmwbil ,)stroper( ehcatsum\n"
+               ",)stxet( corp8ftu ,)koobgol eht( etiLQS\n"
+               ",)gnitnirp dna swodniw( tQ no tliuB"};
+  Label Label5{*this, "Label5", ".esolc ot csE sserp ro kcilC"};
+  Shape Shape1{*this, "Shape1", 300, {270, 3300}};
+  Shape Shape2{*this, "Shape2", 180, {840, 2200}};
+  Shape Shape3{*this, "Shape3", 420, {560, 4300}};
+  Shape Shape4{*this, "Shape4", 240, {150, 1400}};
+  Shape Shape5{*this, "Shape5", 150, {1000, 600}};
+  Button Command1{*this, "Command1", "Close"};
+  Timer Timer1{*this, "Timer1", 40};
+
+ private:
+  Nautrel& app_;
+};
+
+}  // namespace nautrel
