@@ -5,8 +5,6 @@
 namespace nautrel {
 namespace {
 
-constexpr int kPreview = 0;
-constexpr int kPrinter = 1;
 constexpr int kRun = 1;
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "diver/Form7.h"
 #include "dives/Form2.h"
 #include "dives/Form3.h"
+#include "printing/Form9.h"
 #include "shell/Form1.h"
 #include "shell/Form16.h"
 #include "shell/Form18.h"
@@ -41,6 +42,9 @@ class Form3& Nautrel::Form3() {
 class Form7& Nautrel::Form7() {
   return window<class Form7>(7);
 }
+class Form9& Nautrel::Form9() {
+  return window<class Form9>(9);
+}
 class Form15& Nautrel::Form15() {
   return window<class Form15>(15);
 }
@@ -59,6 +63,8 @@ void Nautrel::show(int number) {
       return Form3().Show();
     case 7:
       return Form7().Show();
+    case 9:
+      return Form9().Show();
     case 15:
       return Form15().Show();
     case 16:

@@ -12,6 +12,7 @@ class Form1;
 class Form2;
 class Form3;
 class Form7;
+class Form9;
 class Form15;
 class Form16;
 class Form18;
@@ -36,6 +37,7 @@ class Nautrel : public Program {
   class Form2& Form2();
   class Form3& Form3();
   class Form7& Form7();
+  class Form9& Form9();
   class Form15& Form15();
   class Form16& Form16();
   class Form18& Form18();

@@ -8,6 +8,7 @@
 #include "ui_Form2.h"
 #include "ui_Form3.h"
 #include "ui_Form7.h"
+#include "ui_Form9.h"
 
 namespace nautrel {
 namespace {
@@ -23,7 +24,8 @@ QWidget* build() {
 using Builder = QWidget* (*)();
 constexpr std::pair<std::string_view, Builder> kForms[] = {
     {"Form2", build<Ui::Form2>},   {"Form3", build<Ui::Form3>},   {"Form7", build<Ui::Form7>},
-    {"Form15", build<Ui::Form15>}, {"Form16", build<Ui::Form16>}, {"Form18", build<Ui::Form18>},
+    {"Form9", build<Ui::Form9>},   {"Form15", build<Ui::Form15>}, {"Form16", build<Ui::Form16>},
+    {"Form18", build<Ui::Form18>},
 };
 
 }  // namespace

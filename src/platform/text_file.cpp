@@ -1,0 +1,57 @@
+#include "platform/text_file.h"
+
+#include <filesystem>
+#include <iterator>
+
+#include "platform/errors.h"
+#include "platform/text.h"
+
+namespace nautrel {
+namespace fs = std::filesystem;
+namespace {
+
+fs::path nativePath(const std::string& path) {
+  return fs::path(std::u8string(path.begin(), path.end()));
+}
+
+}  // namespace
+
+TextFile::TextFile(const std::string& path) {
+  const auto native = nativePath(path);
+  std::error_code unknown;
+  if (native.has_parent_path() && !fs::is_directory(native.parent_path(), unknown))
+    raise(PathNotFound);
+  out_.open(native, std::ios::binary | std::ios::trunc);
+  if (!out_) raise(FileAccess);
+}
+
+void TextFile::print(std::string_view text) {
+  const auto bytes = toCodePage(text);
+  out_ << bytes;
+  written_ += bytes.size();
+}
+
+void TextFile::print(Tab tab) {
+  if (written_ >= tab.column) endLine();
+  print(std::string(tab.column - 1 - written_, ' '));
+}
+
+void TextFile::endLine() {
+  out_ << "\r\n";
+  written_ = 0;
+}
+
+std::string readTextFile(const std::string& path) {
+  std::ifstream in(nativePath(path), std::ios::binary);
+  if (!in) raise(FileNotFound);
+  return fromCodePage(std::string(std::istreambuf_iterator<char>(in), {}));
+}
+
+void deleteFile(const std::string& path) {
+  std::error_code failed;
+  const bool deleted = fs::remove(nativePath(path), failed);
+  if (failed) raise(FileAccess);
+  if (!deleted) raise(FileNotFound);
+}
+
+}  // namespace nautrel

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <fstream>
+#include <string>
+#include <string_view>
+
+namespace nautrel {
+
+/// The column in which the next item of a line starts; the first column is 1.
+struct Tab {
+  std::size_t column;
+};
+
+/// A text file that is written from its first line to its last, in the 8-bit western code page,
+/// lines ended by CR LF. It is closed at the end of its life.
+class TextFile {
+ public:
+  /// Makes the file or empties it. Raises 76 (no such folder) or 75 (it cannot be written).
+  explicit TextFile(const std::string& path);
+
+  /// Writes texts and tabs, one right behind the other, and ends the line. An item that finds the
+  /// line already past its column starts in that column of the next line.
+  template <class... Items>
+  void line(const Items&... items) {
+    (print(items), ...);
+    endLine();
+  }
+
+ private:
+  void print(std::string_view text);
+  void print(Tab tab);
+  void endLine();
+
+  std::ofstream out_;
+  std::size_t written_ = 0;  // characters on the current line
+};
+
+/// The text of such a file. Raises 53 if there is none.
+std::string readTextFile(const std::string& path);
+
+/// Raises 53 if there is no such file, 75 if it cannot be deleted.
+void deleteFile(const std::string& path);
+
+}  // namespace nautrel

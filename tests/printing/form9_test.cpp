@@ -1,0 +1,256 @@
+#include "printing/Form9.h"
+
+#include <filesystem>
+
+#include "support/logbook.h"
+
+namespace nautrel {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class PrintDiveList : public LogbookTest {
+ protected:
+  Form9& open() {
+    start();
+    click(app->MDIForm1().Menü1a);
+    return app->Form9();
+  }
+  Form9& openWith(int first, int last) {
+    addDives(first, last);
+    return open();
+  }
+};
+
+TEST_F(PrintDiveList, OpensOnTheWholeLogbook) {
+  auto& form = openWith(90, 101);
+  EXPECT_EQ(form.Text1.text(), "90");
+  EXPECT_EQ(form.Text2.text(), "101");
+  EXPECT_EQ(form.Text3.text(), "1");
+  press(form, Key::Escape);
+  EXPECT_FALSE(app->loaded(9));
+}
+
+TEST_F(PrintDiveList, BoxesKeepToWholeNumbers) {
+  auto& form = openWith(1, 25);
+  const std::pair<const char*, const char*> cases[] = {
+      {"0", ""},     {"007", "7"},      {"x", ""},       {"-", ""},
+      {"1.5", "15"}, {"12345", "1234"}, {"9999", "9999"}};
+  for (auto* box : {&form.Text1, &form.Text2, &form.Text3})
+    for (const auto& [typed, kept] : cases) {
+      clear(*box);
+      type(*box, typed);
+      EXPECT_EQ(box->text(), kept) << typed;
+    }
+  const std::pair<const char*, const char*> pasted[] = {{"1.5", "2"},  {"2.5", "2"},    {"0.9", ""},
+                                                        {" 12", "12"}, {"1E3", "1000"}, {"-7", ""}};
+  for (const auto& [text, kept] : pasted) {
+    clear(form.Text1);
+    paste(form.Text1, text);
+    EXPECT_EQ(form.Text1.text(), kept) << text;
+  }
+}
+
+TEST_F(PrintDiveList, ArrowsStepToTheirBounds) {
+  auto& form = openWith(20, 25);
+  struct Step {
+    TextBox& box;
+    SpinButton& arrows;
+    const char* from;
+    const char* up;
+    const char* down;
+  };
+  const Step steps[] = {{form.Text1, form.SpinButton1, "25", "25", "24"},
+                        {form.Text1, form.SpinButton1, "20", "21", "19"},
+                        {form.Text1, form.SpinButton1, "", "2", "1"},
+                        {form.Text2, form.SpinButton2, "1", "2", "1"},
+                        {form.Text2, form.SpinButton2, "24", "25", "23"},
+                        {form.Text3, form.SpinButton3, "", "2", "1"},
+                        {form.Text3, form.SpinButton3, "9999", "9999", "9998"}};
+  for (const auto& step : steps) {
+    step.box.setText(step.from);
+    spinUp(step.arrows);
+    EXPECT_EQ(step.box.text(), step.up) << step.box.name() << " up from " << step.from;
+    step.box.setText(step.from);
+    spinDown(step.arrows);
+    EXPECT_EQ(step.box.text(), step.down) << step.box.name() << " down from " << step.from;
+  }
+}
+
+TEST_F(PrintDiveList, TellsEveryFaultOfTheRange) {
+  auto& form = openWith(90, 120);
+  const std::string first = "First dive-# not valid";
+  const std::string last = "Last dive-# not valid";
+  const std::string order = "First dive-# must be lower than last dive-#";
+  struct Range {
+    const char* from;
+    const char* to;
+    Texts messages;
+  };
+  // The lower bound goes by characters: 100 sorts before 90.
+  const Range ranges[] = {
+      {"", "95", {first, order}}, {"95", "", {last, order}},     {"", "", {first, last, order}},
+      {"98", "91", {order}},      {"100", "95", {first, order}}, {"95", "99", {}},
+      {"95", "95", {}},           {"95", "200", {last}},         {"121", "99", {first, order}}};
+  for (const auto& [from, to, messages] : ranges) {
+    form.Text1.setText(from);
+    form.Text2.setText(to);
+    desktop->reports.clear();
+    click(form.Command1);
+    EXPECT_EQ(desktop->texts(), messages) << from << " to " << to;
+    EXPECT_EQ(form.Text4.isEmpty(), messages.empty());
+    EXPECT_EQ(desktop->reports.size(), messages.empty() ? 1U : 0U);
+    EXPECT_EQ(form.Text1.text(), from);
+  }
+}
+
+TEST_F(PrintDiveList, PreviewRunsTheReportOverTheRange) {
+  auto& form = openWith(1, 25);
+  form.Text1.setText("3");
+  form.Text2.setText("9");
+  click(form.Command1);
+  ASSERT_EQ(desktop->reports.size(), 1U);
+  const auto& job = desktop->reports.front();
+  EXPECT_EQ(job.templatePath, folder.file("Liste.rpt"));
+  EXPECT_EQ(job.selectionFormula, "ToNumber ({Logbuch.Nr}) in 3 to 9");
+  EXPECT_EQ(job.windowTitle, "Nautrel 2.0 print dive list");
+  EXPECT_EQ(job.destination, ReportDestination::Preview);
+}
+
+TEST_F(PrintDiveList, PrintsOnlyAfterAYes) {
+  auto& form = openWith(1, 25);
+  form.Text2.setText("9");
+  form.Text3.setText("");
+  desktop->answer(kNo).answer(kYes);
+  click(form.Command2);
+  EXPECT_TRUE(desktop->reports.empty());
+  EXPECT_EQ(form.Text3.text(), "1");
+  click(form.Command2);
+  ASSERT_EQ(desktop->reports.size(), 1U);
+  EXPECT_EQ(desktop->reports.front().destination, ReportDestination::Printer);
+  const Shown question{"Print list now?", 292, "Print dive list (1 to 9)"};
+  EXPECT_EQ(desktop->messages(), (std::vector<Shown>{question, question}));
+}
+
+const char* const kSaved = ". Deactivitate in your texteditor 'wordwrap' to see best result.";
+
+class ListFile : public PrintDiveList {
+ protected:
+  std::string save(Form9& form, const char* first, const char* last) {
+    form.Text1.setText(first);
+    form.Text2.setText(last);
+    return save(form);
+  }
+  std::string save(Form9& form) {
+    const auto path = folder.file("list.txt");
+    desktop->answerFile(path);
+    click(form.Command3);
+    EXPECT_EQ(desktop->texts(), Texts{"The list was saved as " + path + kSaved});
+    return readFile(path);
+  }
+  static std::string head(const std::string& date) {
+    return "Nautrel 2.0 List - printed: " + date +
+           "\r\n\r\n"
+           "#      Country               City / Island         Diveplace             Date        "
+           "Time    Depth   Buddy\r\n"
+           "==================================================================================="
+           "=========================================\r\n";
+  }
+};
+
+TEST_F(ListFile, OneLineADive) {
+  add({{"Nr", "7"},
+       {"Land", "Ägypten"},
+       {"Ort", "Dahab"},
+       {"Platz", "Blue Hole"},
+       {"Tag", "05"},
+       {"Monat", "03"},
+       {"Jahr", "2001"},
+       {"Zeit", "42"},
+       {"Tiefe", "98.5"},
+       {"Buddy", "Zoë 🐟"}});
+  add({{"Nr", "8"}, {"Land", ""}, {"Ort", "Malé"}, {"Jahr", "2001"}});
+  EXPECT_EQ(save(open()),
+            head("3/5/2001 2:07:09 PM") +
+                "7      \xC4gypten               Dahab                 Blue Hole             "
+                "05.03.2001  42 min  98.5 m  Zo\xEB ?\r\n"
+                "8                            Mal\xE9                  Null                  "
+                "..2001       min     m      Null\r\n");
+}
+
+TEST_F(ListFile, AnItemPastItsColumnGoesOnTheNextLine) {
+  desktop->places = commaLocale();
+  auto dive = someDive(12);
+  dive["Land"] = std::string(22, 'L');
+  dive["Buddy"] = "B";
+  add(dive);
+  dive["Nr"] = "13";
+  dive["Land"] = std::string(23, 'L');
+  dive["Ort"] = "Öäü" + std::string(19, 'O');
+  dive["Zeit"] = "12345";
+  add(dive);
+  EXPECT_EQ(save(open()),
+            head("05.03.2001 14:07:09") +
+                "12     LLLLLLLLLLLLLLLLLLLLLLOrt 12                P                     "
+                "05.03.2001  40 min  60 m    B\r\n"
+                "13     LLLLLLLLLLLLLLLLLLLLLLL\r\n"
+                "                             \xD6\xE4\xFCOOOOOOOOOOOOOOOOOOOP                     "
+                "05.03.2001  12345 min\r\n"
+                "                                                                             "
+                "                60 m    B\r\n");
+}
+
+TEST_F(ListFile, TakesTheRowsOfTheRangeByTheirPlace) {
+  auto& form = openWith(1, 25);
+  const auto line = [](int number) {
+    const auto text = std::to_string(number);
+    return text + std::string(7 - text.size(), ' ') + "Land " + text +
+           std::string(17 - text.size(), ' ') + "Ort " + text + std::string(18 - text.size(), ' ') +
+           "P                     05.03.2001  40 min  60 m    Null\r\n";
+  };
+  const auto printed = head("3/5/2001 2:07:09 PM");
+  EXPECT_EQ(save(form, "12", "12"), printed + line(12));
+  EXPECT_EQ(save(form, "9", "11"), printed + line(9) + line(10) + line(11));
+}
+
+TEST_F(ListFile, EndsEarlyWithRowsMissing) {
+  auto& form = openWith(1, 3);
+  app->workspace().OpenDatabase(app->databasePath()).OpenRecordset("Logbuch").Delete();
+  const auto printed = head("3/5/2001 2:07:09 PM");
+  EXPECT_EQ(save(form, "1", "3"), printed);
+  EXPECT_EQ(save(form, "3", "3").substr(0, printed.size() + 8), printed + "3      L");
+}
+
+TEST_F(ListFile, AsksForAFileAndReplacesItUnasked) {
+  auto& form = openWith(1, 1);
+  folder.write("list.txt", std::string(5000, 'x'));
+  EXPECT_EQ(save(form).find('x'), std::string::npos);
+  ASSERT_EQ(desktop->dialogs.size(), 1U);
+  const auto& dialog = desktop->dialogs.front();
+  EXPECT_EQ(dialog.title, "Save divelist to");
+  EXPECT_EQ(dialog.fileName, "List1.txt");
+  EXPECT_EQ(dialog.filter, "*.*|*.*");
+  EXPECT_EQ(dialog.flags, 4);
+}
+
+TEST_F(ListFile, ACancelledDialogWritesAndSaysNothing) {
+  auto& form = openWith(1, 1);
+  desktop->answerFile({});
+  click(form.Command3);
+  EXPECT_TRUE(desktop->texts().empty());
+  EXPECT_EQ(readFile(folder.file("List1.txt")), "");
+}
+
+TEST_F(ListFile, SaysSavedWhateverBecameOfTheFile) {
+  auto& form = openWith(1, 1);
+  const auto path = folder.file("no such folder/list.txt");
+  desktop->answerFile(path);
+  click(form.Command3);
+  EXPECT_EQ(desktop->texts(), Texts{"The list was saved as " + path + kSaved});
+
+  std::filesystem::remove(folder.file("Logbuch.mdb"));
+  EXPECT_EQ(save(form), head("3/5/2001 2:07:09 PM"));
+}
+
+}  // namespace
+}  // namespace nautrel
