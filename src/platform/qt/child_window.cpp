@@ -65,6 +65,7 @@ ChildWindow::ChildWindow(QtLooks& looks, Form& form) : FormView(looks, form) {
   bindControls();
   flush();
   // Captions that the controls have just brought in do not reach the layouts of a hidden window.
+  for (auto* widget : window_->findChildren<QWidget*>()) widget->updateGeometry();
   for (auto* layout : window_->findChildren<QLayout*>()) layout->invalidate();
   const QSize size = window_->sizeHint();
   window_->following = true;
