@@ -86,9 +86,9 @@ void Desktop::copyChart(const Chart& chart) {
   copy(chart);
 }
 
-void Desktop::popupMenu(Menu& menu, const Form* form, double left, double top) {
+void Desktop::popupMenu(Menu& menu, const Control* above) {
   openDoor(true);
-  popup(menu, form, left, top);
+  popup(menu, above);
   openDoor();
 }
 

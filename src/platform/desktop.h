@@ -11,7 +11,7 @@
 namespace nautrel {
 
 class Chart;
-class Form;
+class Control;
 class Menu;
 
 inline constexpr const char* kApplicationTitle = "Nautrel";
@@ -81,9 +81,9 @@ class Desktop {
   /// Hands a document to the desktop's own opener; what comes of it is not told.
   void openDocument(const std::string& path);
   void copyChart(const Chart& chart);
-  /// Pops up a context menu at the twips of `form`'s client area; without a form, at the pointer.
-  /// Returns when it has closed.
-  void popupMenu(Menu& menu, const Form* form = nullptr, double left = 0, double top = 0);
+  /// Pops up a context menu just below the control; without one, at the pointer. Returns when it
+  /// has closed.
+  void popupMenu(Menu& menu, const Control* above = nullptr);
   void printText(const std::string& text);
   /// The executable's folder, without a separator at its end.
   std::string applicationPath();
@@ -112,7 +112,7 @@ class Desktop {
   virtual void run(const ReportJob& job) = 0;
   virtual void open(const std::string& path) = 0;
   virtual void copy(const Chart& chart) = 0;
-  virtual void popup(Menu& menu, const Form* form, double left, double top) = 0;
+  virtual void popup(Menu& menu, const Control* above) = 0;
   virtual void print(const std::string& text) = 0;
   virtual std::string executableFolder() = 0;
   virtual ScreenSize screenSize() = 0;

@@ -136,7 +136,8 @@ Picture ScriptedDesktop::readPicture(const std::string& path) {
   return std::make_shared<ScriptedPicture>(path);
 }
 
-void ScriptedDesktop::popup(Menu& menu, const Form*, double, double) {
+void ScriptedDesktop::popup(Menu& menu, const Control* above) {
+  popups.push_back(above == nullptr ? std::string{} : above->name());
   const auto chosen = next(menuItems_, menu.caption(), std::string{});
   for (auto* item : menu.items())
     if (item != nullptr && item->name() == chosen) return item->userClick();

@@ -55,6 +55,7 @@ class ScriptedDesktop : public Desktop {
   std::vector<ReportJob> reports;
   std::vector<std::string> opened;
   std::vector<std::string> printed;
+  std::vector<std::string> popups;  // the control that each context menu dropped from, by its name
   std::vector<std::string> inputPrompts;  // "title: prompt"
   int charts = 0;
   /// Called while a box is open.
@@ -85,7 +86,7 @@ class ScriptedDesktop : public Desktop {
   void run(const ReportJob& job) override { reports.push_back(job); }
   void open(const std::string& path) override { opened.push_back(path); }
   void copy(const Chart&) override { ++charts; }
-  void popup(Menu& menu, const Form* form, double left, double top) override;
+  void popup(Menu& menu, const Control* above) override;
   void print(const std::string& text) override { printed.push_back(text); }
   std::string executableFolder() override { return folder_; }
   ScreenSize screenSize() override { return size; }

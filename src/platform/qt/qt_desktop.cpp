@@ -140,13 +140,17 @@ void QtDesktop::open(const std::string& path) {
   QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(path)));
 }
 
-void QtDesktop::popup(Menu& menu, const Form* form, double left, double top) {
+void QtDesktop::popup(Menu& menu, const Control* above) {
   if (looks_ == nullptr || looks_->mainFrame() == nullptr) return;
-  auto place = QCursor::pos();
-  if (form != nullptr)
-    if (auto* view = looks_->viewOf(*form); view != nullptr && view->root() != nullptr)
-      place = view->root()->mapToGlobal(QPoint(toPixels(left), toPixels(top)));
-  looks_->mainFrame()->menu(menu).exec(place);
+  looks_->mainFrame()->menu(menu).exec(popupPlace(above));
+}
+
+QPoint QtDesktop::popupPlace(const Control* above) const {
+  const auto* view = above == nullptr ? nullptr : looks_->viewOf(above->form());
+  const auto* binding = view == nullptr ? nullptr : view->bindingOf(*above);
+  if (binding == nullptr) return QCursor::pos();
+  const auto& widget = *binding->widget();
+  return widget.mapToGlobal(QPoint(0, widget.height()));
 }
 
 std::string QtDesktop::executableFolder() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPoint>
 #include <QSettings>
 #include <optional>
 
@@ -35,7 +36,7 @@ class QtDesktop : public Desktop {
   void run(const ReportJob& job) override;
   void open(const std::string& path) override;
   void copy(const Chart& chart) override;
-  void popup(Menu& menu, const Form* form, double left, double top) override;
+  void popup(Menu& menu, const Control* above) override;
   void print(const std::string& text) override;
   std::string executableFolder() override;
   ScreenSize screenSize() override;
@@ -43,6 +44,7 @@ class QtDesktop : public Desktop {
 
  private:
   QWidget* parentWindow() const;
+  QPoint popupPlace(const Control* above) const;
 
   QtLooks* looks_ = nullptr;
   Locale locale_;
