@@ -17,6 +17,7 @@
 #include "platform/form.h"
 #include "platform/qt/binding.h"
 #include "platform/qt/bubble_view.h"
+#include "platform/qt/chart_binding.h"
 #include "platform/qt/color_sample.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/list_binding.h"
@@ -442,6 +443,7 @@ std::unique_ptr<Binding> bind(Control& control, QWidget& widget) {
          tryBind<NavigatorBinding, Navigator, NavigatorBar>(control, widget, made) ||
          tryBind<ImageBinding, Image, PictureView>(control, widget, made) ||
          tryBind<ShapeBinding, Shape, BubbleView>(control, widget, made) ||
+         tryBind<ChartBinding, Chart, ChartWidget>(control, widget, made) ||
          tryBind<ProgressBinding, ProgressBar, QProgressBar>(control, widget, made) ||
          tryBind<ColorBinding, PictureBox, ColorSample>(control, widget, made) ||
          tryBind<PictureBoxBinding, PictureBox, QWidget>(control, widget, made) ||

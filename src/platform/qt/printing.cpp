@@ -22,6 +22,5 @@ bool setUpPrinterDialog(QWidget* parent) {
 
 void QtDesktop::run(const ReportJob&) {}
 void QtDesktop::print(const std::string&) {}
-void QtDesktop::copy(const Chart&) {}
 
 }  // namespace nautrel
