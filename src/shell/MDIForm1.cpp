@@ -3,10 +3,13 @@
 #include <array>
 #include <utility>
 
+#include "dives/Form3.h"
+#include "evaluation/Form6.h"
 #include "platform/errors.h"
 #include "shell/Form18.h"
 #include "shell/Modul1.h"
 #include "shell/Nautrel.h"
+#include "store/contract.h"
 
 namespace nautrel {
 namespace {
@@ -95,6 +98,9 @@ void MDIForm1::bindCommands() {
     item->Click = [this, number = number] { showBeside(number); };
 
   Menü2a.Click = Menü6a.Click = [this] { insertDive(kMenuRefusal); };
+  Menü8a.Click = [this] { showRecordDive(3); };
+  Menü8b.Click = [this] { showRecordDive(4); };
+  Menü8c.Click = [this] { showRecordDive(5); };
   Menü7b.Click = [this] {
     if (cascade) cascade();
   };
@@ -258,6 +264,27 @@ void MDIForm1::insertDive(const char* refusal) {
   if (trueOrFails([&] { return rows.RecordCount() < kMostDives; })) return command(2);
   resumeNext([&] { MsgBox(refusal); });
   app_.unload(2);
+}
+
+// Not by a Startform<n>: the statistic stays open, and makes room.
+void MDIForm1::showRecordDive(int window) {
+  for (const int other : {3, 4, 5})
+    if (other != window) resumeNext([&] { app_.unload(other); });
+  resumeNext([&] { app_.Form6().setLeft(0); });
+  resumeNext([&] { app_.Form6().setTop(0); });
+  resumeNext([&] { app_.show(window); });
+  double target = 0;
+  resumeNext(
+      [&] { target = number(app_.Form6().recordButton(app_.Modul1().StatistikKnopf).caption()); });
+  double distance = 0;
+  resumeNext([&] { distance = target - recordsOf(window).Fields(Feld::Nr).number(locale()); });
+  if (window == 3) app_.Modul1().ListeNachziehen = true;
+  resumeNext([&] { recordsOf(window).Move(toInt32(distance)); });
+}
+
+Recordset& MDIForm1::recordsOf(int window) {
+  if (window == 3) return app_.Form3().Data1.Recordset();
+  raise(ObjectNotSet);
 }
 
 void MDIForm1::gateCommands(bool enabled) {

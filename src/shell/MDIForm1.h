@@ -9,6 +9,7 @@
 namespace nautrel {
 
 class Nautrel;
+class Recordset;
 
 /// The main window's background as long as no setting says otherwise.
 inline constexpr long kStandardColor = 0xC0C0C0;
@@ -121,6 +122,9 @@ class MDIForm1 : public Form {
   void showBeside(int number);
   void insertDive(const char* refusal);
   void applySize();
+  /// Shows the record dive whose number button the statistic's user pressed last.
+  void showRecordDive(int window);
+  Recordset& recordsOf(int window);
 
   Nautrel& app_;
   long backColor_ = kStandardColor;

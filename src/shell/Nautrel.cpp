@@ -6,6 +6,9 @@
 #include "diver/Form7.h"
 #include "dives/Form2.h"
 #include "dives/Form3.h"
+#include "evaluation/Form10.h"
+#include "evaluation/Form11.h"
+#include "evaluation/Form6.h"
 #include "printing/Form9.h"
 #include "shell/Form1.h"
 #include "shell/Form16.h"
@@ -39,11 +42,20 @@ class Form2& Nautrel::Form2() {
 class Form3& Nautrel::Form3() {
   return window<class Form3>(3);
 }
+class Form6& Nautrel::Form6() {
+  return window<class Form6>(6);
+}
 class Form7& Nautrel::Form7() {
   return window<class Form7>(7);
 }
 class Form9& Nautrel::Form9() {
   return window<class Form9>(9);
+}
+class Form10& Nautrel::Form10() {
+  return window<class Form10>(10);
+}
+class Form11& Nautrel::Form11() {
+  return window<class Form11>(11);
 }
 class Form15& Nautrel::Form15() {
   return window<class Form15>(15);
@@ -61,10 +73,16 @@ void Nautrel::show(int number) {
       return Form2().Show();
     case 3:
       return Form3().Show();
+    case 6:
+      return Form6().Show();
     case 7:
       return Form7().Show();
     case 9:
       return Form9().Show();
+    case 10:
+      return Form10().Show();
+    case 11:
+      return Form11().Show();
     case 15:
       return Form15().Show();
     case 16:

@@ -11,8 +11,11 @@ namespace nautrel {
 class Form1;
 class Form2;
 class Form3;
+class Form6;
 class Form7;
 class Form9;
+class Form10;
+class Form11;
 class Form15;
 class Form16;
 class Form18;
@@ -36,8 +39,11 @@ class Nautrel : public Program {
   class Form1& Form1();
   class Form2& Form2();
   class Form3& Form3();
+  class Form6& Form6();
   class Form7& Form7();
   class Form9& Form9();
+  class Form10& Form10();
+  class Form11& Form11();
   class Form15& Form15();
   class Form16& Form16();
   class Form18& Form18();

@@ -2,11 +2,14 @@
 
 #include <utility>
 
+#include "ui_Form10.h"
+#include "ui_Form11.h"
 #include "ui_Form15.h"
 #include "ui_Form16.h"
 #include "ui_Form18.h"
 #include "ui_Form2.h"
 #include "ui_Form3.h"
+#include "ui_Form6.h"
 #include "ui_Form7.h"
 #include "ui_Form9.h"
 
@@ -23,8 +26,9 @@ QWidget* build() {
 
 using Builder = QWidget* (*)();
 constexpr std::pair<std::string_view, Builder> kForms[] = {
-    {"Form2", build<Ui::Form2>},   {"Form3", build<Ui::Form3>},   {"Form7", build<Ui::Form7>},
-    {"Form9", build<Ui::Form9>},   {"Form15", build<Ui::Form15>}, {"Form16", build<Ui::Form16>},
+    {"Form2", build<Ui::Form2>},   {"Form3", build<Ui::Form3>},   {"Form6", build<Ui::Form6>},
+    {"Form7", build<Ui::Form7>},   {"Form9", build<Ui::Form9>},   {"Form10", build<Ui::Form10>},
+    {"Form11", build<Ui::Form11>}, {"Form15", build<Ui::Form15>}, {"Form16", build<Ui::Form16>},
     {"Form18", build<Ui::Form18>},
 };
 

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "evaluation/figures.h"
+#include "shell/MDIForm1.h"
+#include "shell/Modul1.h"
+#include "shell/Nautrel.h"
+#include "store/contract.h"
+
+namespace nautrel {
+
+/// Gives all dives to `pass`, a call of (Recordset&, const DiveDone&), with the progress bar for
+/// its time, and returns what it makes of them. Raises 3021 without dives.
+template <class Pass>
+auto passOverLogbook(Nautrel& app, const Columns& columns, Pass pass) {
+  auto dives =
+      app.workspace().OpenDatabase(app.databasePath()).OpenRecordset(Tabelle::Logbuch, columns);
+  dives.MoveFirst();
+  auto& shared = app.Modul1();
+  shared.FortschrittMaximum = dives.RecordCount();
+  shared.FortschrittAnzeigen();
+  auto& bar = app.MDIForm1().ProgressBar1;
+  auto figures = pass(dives, [&bar](int counter) { bar.setValue(counter); });
+  dives.Close();
+  shared.FortschrittBeenden();
+  return figures;
+}
+
+}  // namespace nautrel

@@ -1,0 +1,114 @@
+#include "evaluation/Form10.h"
+
+#include <filesystem>
+
+#include "evaluation/evaluation_test.h"
+
+namespace nautrel {
+namespace {
+
+class GraphYears : public EvaluationTest {
+ protected:
+  void addDivesIn(const std::vector<std::string>& years) {
+    int number = 1;
+    for (const auto& year : years) {
+      auto dive = someDive(number++);
+      dive["Jahr"] = year;
+      add(dive);
+    }
+  }
+  Form10& open() {
+    start();
+    click(app->MDIForm1().Menü4b);
+    return app->Form10();
+  }
+};
+
+/// "1992:0 1993:0 ..." over all rows.
+std::string rowsOf(Chart& chart) {
+  std::string rows;
+  for (int row = 1; row <= static_cast<int>(chart.entries().size()); ++row) {
+    chart.setRow(row);
+    rows += (row > 1 ? " " : "") + chart.RowLabel() + ":" + chart.Data();
+  }
+  return rows;
+}
+
+TEST_F(GraphYears, TheLastTenYearsAndTheGreatestOfAll) {
+  addDivesIn({"1991", "1992", "1999", "1999", "2001", "2007", "2000"});
+  auto& form = open();
+  EXPECT_EQ(rowsOf(form.MSChart1),
+            "1992:1 1993:0 1994:0 1995:0 1996:0 1997:0 1998:0 1999:2 2000:1 2001:1");
+  EXPECT_EQ(form.Label1.caption(), "2007");
+  EXPECT_EQ(form.caption(), "Graph years");
+  expectAtRest();
+}
+
+TEST_F(GraphYears, DivesOlderThanTenYearsStandInNoRow) {
+  addDivesIn({"1980", "1981"});
+  desktop->time.year = 2001;
+  desktop->places = commaLocale();
+  auto& form = open();
+  for (const auto& entry : form.MSChart1.entries()) EXPECT_EQ(entry.value, 0) << entry.label;
+  EXPECT_EQ(form.Label1.caption(), "1981");
+}
+
+TEST_F(GraphYears, AYearThatIsNoNumberEndsTheProgram) {
+  addDivesIn({"2001", ""});
+  start();
+  click(app->MDIForm1().Menü4b);
+  ASSERT_TRUE(desktop->failure());
+  EXPECT_EQ(desktop->failure()->number, TypeMismatch);
+}
+
+TEST_F(GraphYears, TheKindOfChartAndWhatIsSaidAboutIt) {
+  addDives(1, 2);
+  auto& form = open();
+  const auto expectKind = [&](Chart::Type type, bool turnable) {
+    EXPECT_EQ(form.MSChart1.chartType(), type);
+    EXPECT_EQ(form.MSChart1.AllowDynamicRotation(), turnable) << type;
+    EXPECT_EQ(form.Label1.visible(), !turnable) << type;
+    EXPECT_EQ(form.Label2.visible(), !turnable) << type;
+    EXPECT_EQ(form.Label3.visible(), turnable) << type;
+  };
+  EXPECT_TRUE(form.Option1.on());
+  expectKind(Chart::Line, false);
+  click(form.Option2);
+  expectKind(Chart::Area3D, true);
+  click(form.Option4);
+  expectKind(Chart::Bars, false);
+  click(form.Option3);
+  expectKind(Chart::Bars3D, true);
+  click(form.Option1);
+  expectKind(Chart::Line, false);
+  press(form, Key::Enter);
+  EXPECT_FALSE(app->loaded(10));
+}
+
+TEST_F(GraphYears, CopiedAndTold) {
+  addDives(1, 2);
+  auto& form = open();
+  click(form.Command1);
+  EXPECT_EQ(desktop->charts, 1);
+  EXPECT_EQ(desktop->messages(),
+            std::vector<Shown>{{"The graph and the data was copied to clipboard."}});
+}
+
+TEST_F(GraphYears, NoFileComesOfSaving) {
+  addDives(1, 2);
+  auto& form = open();
+  const auto picture = folder.file("years.wmf");
+  desktop->answerFile(picture).answerFile({});
+  app->handle([&] {
+    form.DiagrammSpeichern();
+    form.DiagrammSpeichern();
+  });
+  ASSERT_EQ(desktop->dialogs.size(), 2u);
+  EXPECT_EQ(desktop->dialogs.front().title, "Diagramm speichern unter");
+  EXPECT_EQ(desktop->dialogs.front().fileName, "Diagramm Jahre");
+  EXPECT_EQ(desktop->dialogs.front().flags, 6);
+  EXPECT_FALSE(std::filesystem::exists(picture));
+}
+
+}  // namespace
+}  // namespace nautrel

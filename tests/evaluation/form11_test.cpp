@@ -1,0 +1,56 @@
+#include "evaluation/Form11.h"
+
+#include "evaluation/evaluation_test.h"
+
+namespace nautrel {
+namespace {
+
+class GraphMonth : public EvaluationTest {
+ protected:
+  Form11& open(const std::vector<Value>& months) {
+    int number = 1;
+    for (const auto& month : months) {
+      auto dive = someDive(number++);
+      dive["Monat"] = month;
+      add(dive);
+    }
+    start();
+    click(app->MDIForm1().Menü4c);
+    return app->Form11();
+  }
+  static std::string share(Form11& form, int month) {
+    form.MSChart1.setRow(month);
+    return form.MSChart1.RowLabel() + " " + form.MSChart1.Data();
+  }
+};
+
+TEST_F(GraphMonth, SharesOfAllDives) {
+  auto& form = open({"03", "03", "12", "13", Value::null(), "3", "03", "01"});
+  EXPECT_EQ(share(form, 1), "Jan 12.5");
+  EXPECT_EQ(share(form, 3), "Mar 37.5");
+  EXPECT_EQ(share(form, 4), "Apr 0");
+  EXPECT_EQ(share(form, 12), "Dec 12.5");
+  EXPECT_EQ(form.MSChart1.chartType(), Chart::Line);
+  EXPECT_EQ(form.caption(), "Graph month");
+  expectAtRest();
+}
+
+TEST_F(GraphMonth, ThirdsAreNotRounded) {
+  desktop->places = commaLocale();
+  auto& form = open({"05", "06", "07"});
+  EXPECT_EQ(share(form, 5), "May 33,3333333333333");
+  EXPECT_EQ(share(form, 7), "Jul 33,3333333333333");
+}
+
+TEST_F(GraphMonth, CopiedAndLeft) {
+  auto& form = open({"05"});
+  click(form.Command1);
+  EXPECT_EQ(desktop->charts, 1);
+  EXPECT_EQ(desktop->texts(),
+            std::vector<std::string>{"The graph and the data was copied to clipboard."});
+  press(form, Key::Escape);
+  EXPECT_FALSE(app->loaded(11));
+}
+
+}  // namespace
+}  // namespace nautrel

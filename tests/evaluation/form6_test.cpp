@@ -1,0 +1,307 @@
+#include "evaluation/Form6.h"
+
+#include <filesystem>
+
+#include "dives/Form3.h"
+#include "evaluation/evaluation_test.h"
+
+namespace nautrel {
+namespace {
+
+constexpr const char* kOneDive = R"(Statistic printed: 3/5/2001 2:07:09 PM über 1 Tauchgänge
+
+General:
+~~~~~~~~~~~~
+whole divetime:            1.    hours
+middle divetime:           60.   min/dive
+longest dive:              60    min      by dive-#:      7
+shortest dive:             60    min      by dive-#:      7
+max. depth:                30    ft          by dive-#:   7
+min. depth:                30    ft          by dive-#:   7
+middle depth:              30.   ft/dive
+
+Depth:
+~~~~~~~
+ 0 - 30 ft:   1   =  100 %
+31 - 60 ft:   0   =  0 %
+61 - 90 ft:   0   =  0 %
+91 - 120 ft:  0   =  0 %
+121 - 150 ft: 0   =  0 %
+     > 150 ft:0   =  0 %
+
+Other:
+~~~~~~~~~~
+Sweetwat.:    0   =  0 %
+Saltwat.:     0   =  0 %
+
+from boat:    0   =  0 %
+from shore:   0   =  0 %
+
+rep-dive:     0   =  0 %
+deco-stop:    0   =  0 %
+)";
+
+// Figures too wide for their column send the unit to the next line.
+constexpr const char* kWideFigures = R"(Statistic printed: 05.03.2001 14:07:09 über 3 Tauchgänge
+
+General:
+~~~~~~~~~~~~
+whole divetime:            16668,02
+                                 hours
+middle divetime:           333360,33
+                                 min/dive
+longest dive:              1000000
+                                 min      by dive-#:      9998
+shortest dive:             40,5  min      by dive-#:      9997
+max. depth:                151   ft          by dive-#:   9998
+min. depth:                -1    ft          by dive-#:   9999
+middle depth:              60,17 ft/dive
+
+Depth:
+~~~~~~~
+ 0 - 30 ft:   0   =  0 %
+31 - 60 ft:   1   =  33 %
+61 - 90 ft:   0   =  0 %
+91 - 120 ft:  0   =  0 %
+121 - 150 ft: 0   =  0 %
+     > 150 ft:1   =  33 %
+
+Other:
+~~~~~~~~~~
+Sweetwat.:    1   =  33 %
+Saltwat.:     2   =  67 %
+
+from boat:    2   =  67 %
+from shore:   1   =  33 %
+
+rep-dive:     1   =  33 %
+deco-stop:    1   =  33 %
+)";
+
+std::string replaced(std::string text, const std::string& from, const std::string& to) {
+  for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size())
+    text.replace(at, from.size(), to);
+  return text;
+}
+
+std::string asBytes(const std::string& text) {
+  return replaced(replaced(replaced(text, "ü", "\xFC"), "ä", "\xE4"), "\n", "\r\n");
+}
+
+Dive dive(int number, const char* minutes, const char* feet) {
+  auto dive = someDive(number);
+  dive["Zeit"] = minutes;
+  dive["Tiefe"] = feet;
+  return dive;
+}
+
+Dive with(Dive dive, const std::vector<std::string>& flags) {
+  for (const auto& flag : flags) dive[flag] = true;
+  return dive;
+}
+
+class Statistic : public EvaluationTest {
+ protected:
+  Form6& open() {
+    start();
+    click(app->MDIForm1().Menü4a);
+    return app->Form6();
+  }
+  std::string chosen() const { return folder.file("chosen.txt"); }
+  std::string saved() {
+    desktop->answerFile(chosen());
+    click(open().Command3);
+    return readFile(chosen());
+  }
+  void addWideFigures() {
+    desktop->places = commaLocale();
+    add(with(dive(9997, "40,5", "30,5"), {"Salz", "Boot"}));
+    add(with(dive(9998, "1000000", "151"), {"Süß", "Ufer", "Rep", "Deco"}));
+    add(with(dive(9999, "40,5", "-1"), {"Salz", "Boot"}));
+  }
+};
+
+TEST_F(Statistic, ShowsWhatIsCountedWhenItOpens) {
+  add(with(dive(5, "30", "45"), {"Salz", "Boot"}));
+  add(with(dive(6, "50", "100"), {"Süß", "Ufer", "Rep", "Deco"}));
+  add(with(dive(7, "40", "20"), {"Salz", "Boot"}));
+  auto& form = open();
+  EXPECT_EQ(form.caption(), "Statistic over 3 dives (5 to 7)");
+  const std::pair<const Label*, const char*> labels[] = {
+      {&form.Label8, "2."},    {&form.Label9, "40."},   {&form.Label14, "55."},
+      {&form.Label10, "50"},   {&form.Label11, "30"},   {&form.Label12, "100"},
+      {&form.Label13, "20"},   {&form.Label32, "1"},    {&form.Label33, "1"},
+      {&form.Label34, "0"},    {&form.Label35, "1"},    {&form.Label36, "0"},
+      {&form.Label37, "0"},    {&form.Label40, "1"},    {&form.Label41, "2"},
+      {&form.Label44, "1"},    {&form.Label45, "1"},    {&form.Label59, "2"},
+      {&form.Label60, "1"},    {&form.Label46, "33 %"}, {&form.Label47, "33 %"},
+      {&form.Label48, "0 %"},  {&form.Label49, "33 %"}, {&form.Label50, "0 %"},
+      {&form.Label51, "0 %"},  {&form.Label52, "33 %"}, {&form.Label53, "67 %"},
+      {&form.Label54, "33 %"}, {&form.Label55, "33 %"}, {&form.Label61, "67 %"},
+      {&form.Label62, "33 %"}};
+  for (const auto& [label, text] : labels) EXPECT_EQ(label->caption(), text) << label->name();
+  EXPECT_EQ(form.Command4.caption(), "6");
+  EXPECT_EQ(form.Command5.caption(), "5");
+  EXPECT_EQ(form.Command6.caption(), "6");
+  EXPECT_EQ(form.Command7.caption(), "7");
+  EXPECT_EQ(app->Modul1().LetzteNummer, Value("7"));
+  expectAtRest();
+
+  add(dive(8, "600", "300"));
+  click(app->MDIForm1().Menü4a);
+  EXPECT_EQ(form.Label10.caption(), "50") << "an open statistic keeps its figures";
+  press(form, Key::Escape);
+  EXPECT_FALSE(app->loaded(6));
+}
+
+TEST_F(Statistic, ATimeThatIsNoNumberEndsTheProgram) {
+  add(dive(1, "60", "30"));
+  add(dive(2, "long", "30"));
+  start();
+  click(app->MDIForm1().Menü4a);
+  ASSERT_TRUE(desktop->failure());
+  EXPECT_EQ(desktop->failure()->number, TypeMismatch);
+}
+
+TEST_F(Statistic, SavedOneDive) {
+  add(dive(7, "60", "30"));
+  EXPECT_EQ(saved(), asBytes(kOneDive));
+  ASSERT_EQ(desktop->dialogs.size(), 1u);
+  const auto& dialog = desktop->dialogs.front();
+  EXPECT_EQ(dialog.title, "Save statistic to");
+  EXPECT_EQ(dialog.filter, "*.*|*.*");
+  EXPECT_EQ(dialog.fileName, "Statistic.txt");
+  EXPECT_EQ(dialog.flags, 6);
+}
+
+TEST_F(Statistic, SavedWithCommaOverALongerFile) {
+  addWideFigures();
+  folder.write("chosen.txt", std::string(5000, 'x'));
+  EXPECT_EQ(saved(), asBytes(kWideFigures));
+}
+
+TEST_F(Statistic, SavedFiguresThatStayAtTheirLimits) {
+  add(dive(3, "0", "1000"));
+  const auto file = saved();
+  for (const char* line : {"\r\nwhole divetime:            .     hours\r\n",
+                           "\r\nlongest dive:              0     min      by dive-#:      0\r\n",
+                           "\r\nshortest dive:             0     min      by dive-#:      3\r\n",
+                           "\r\nmin. depth:                999   ft          by dive-#:   0\r\n"})
+    EXPECT_NE(file.find(line), std::string::npos) << line;
+}
+
+TEST_F(Statistic, ACancelledDialogLeavesTheFile) {
+  add(dive(7, "60", "30"));
+  folder.write("chosen.txt", "before");
+  auto& form = open();
+  desktop->answerFile(chosen());
+  click(form.Command3);
+  folder.write("chosen.txt", "edited");
+  desktop->answerFile({});
+  click(form.Command3);
+  EXPECT_EQ(readFile(chosen()), "edited");
+  EXPECT_TRUE(desktop->messages().empty());
+}
+
+TEST_F(Statistic, AFileThatCannotBeWrittenPassesUnsaid) {
+  add(dive(7, "60", "30"));
+  auto& form = open();
+  desktop->answerFile(folder.file("no folder/chosen.txt")).answerFile(folder.path());
+  click(form.Command3);
+  click(form.Command3);
+  EXPECT_TRUE(desktop->messages().empty());
+  EXPECT_TRUE(app->loaded(6));
+}
+
+TEST_F(Statistic, TheOlderWayOfPrintingSendsTheGermanText) {
+  addWideFigures();
+  auto german = replaced(kWideFigures, "Statistic printed: ", "Statistik gedruckt am: ");
+  german = replaced(german, "General:", "Allgemeines:");
+  german = replaced(german, "Depth:", "Tiefen:");
+  german = replaced(german, "Other:", "Sonstiges:");
+  auto& form = open();
+  app->handle([&] { form.Drucken(); });
+  EXPECT_EQ(desktop->printed, std::vector<std::string>{replaced(german, "\n", "\r\n")});
+  EXPECT_FALSE(std::filesystem::exists(folder.file("Statistik.§$§")));
+}
+
+TEST_F(Statistic, StoredWhateverTheAnswerAndPrintedOnYes) {
+  addWideFigures();
+  auto& form = open();
+  desktop->answer(kNo);
+  click(form.Command2);
+  EXPECT_EQ(desktop->messages(), (std::vector<Shown>{{"Print now?", kAskNo, "Print statistic"}}));
+  EXPECT_EQ(rows("Statistik",
+                 {"Zeit_ges", "Zeit_durch", "Längster", "Kürzester", "Tiefe_max", "Tiefe_min",
+                  "Tiefe_durch", "0_bis_10", "11_bis_20", "21_bis_30", "31_bis_40", "41_bis_50",
+                  "größer_50", "Süsswasser", "Salzwasser", "Boot", "Ufer", "Rep", "Deco"}),
+            (std::vector<std::vector<std::string>>{
+                {"16668,02 hours", "333360,33 min/dive", "1000000 min by dive-#: 9998",
+                 "40,5 min by dive-#: 9997", "151 ft by dive-#: 9998", "-1 ft by dive-#: 9999",
+                 "60,17 ft/dive", "0 Dives  =  0 %", "1 Dives  =  33 %", "0 Dives  =  0 %",
+                 "0 Dives  =  0 %", "0 Dives  =  0 %", "1 Dives  =  33 %", "1 Dives  =  33 %",
+                 "2 Dives  =  67 %", "2 Dives  =  67 %", "1 Dives  =  33 %", "1 Dives  =  33 %",
+                 "1 Dives  =  33 %"}}));
+  EXPECT_TRUE(desktop->reports.empty());
+
+  desktop->answer(kYes);
+  click(form.Command2);
+  ASSERT_EQ(desktop->reports.size(), 1u);
+  EXPECT_EQ(desktop->reports.front().templatePath, folder.file("Statistik.rpt"));
+  EXPECT_EQ(desktop->reports.front().destination, ReportDestination::Printer);
+}
+
+TEST_F(Statistic, WithoutItsRowItCannotBeStored) {
+  add(dive(7, "60", "30"));
+  {
+    Workspace workspace;
+    auto row = workspace.OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset("Statistik");
+    row.Delete();
+  }
+  click(open().Command2);
+  ASSERT_TRUE(desktop->failure());
+  EXPECT_EQ(desktop->failure()->number, NoCurrentRecord);
+}
+
+TEST_F(Statistic, ANumberButtonShowsItsDive) {
+  add(dive(5, "30", "45"));
+  add(dive(6, "50", "20"));
+  add(dive(7, "20", "100"));
+  auto& form = open();
+  const std::pair<Button*, const char*> buttons[] = {
+      {&form.Command4, "6"}, {&form.Command5, "7"}, {&form.Command6, "7"}, {&form.Command7, "6"}};
+  for (const auto& [button, number] : buttons) {
+    desktop->answerMenu("Menü8a");
+    click(*button);
+    EXPECT_EQ(app->Form3().Text1.text(), number) << button->name();
+    EXPECT_EQ(app->Form3().List1.text(), number) << button->name();
+    EXPECT_EQ(form.activeControl(), &form.Command1);
+    EXPECT_EQ(desktop->popups.back(), button->name());
+  }
+  EXPECT_TRUE(app->loaded(6));
+  EXPECT_EQ(form.Left(), 0);
+  EXPECT_EQ(form.Top(), 0);
+}
+
+TEST_F(Statistic, AButtonWithoutADiveLeavesTheFirstOne) {
+  add(dive(5, "1000", "30"));
+  auto& form = open();
+  ASSERT_EQ(form.Command5.caption(), "0");
+  desktop->answerMenu("Menü8a");
+  click(form.Command5);
+  EXPECT_EQ(app->Form3().Text1.text(), "5");
+}
+
+TEST_F(Statistic, TheMenuMayBeLeftWithoutAChoice) {
+  add(dive(5, "60", "30"));
+  auto& form = open();
+  const auto left = form.Left();
+  desktop->answerMenu("");
+  click(form.Command6);
+  EXPECT_EQ(app->Modul1().StatistikKnopf, Value("6"));
+  EXPECT_EQ(form.Left(), left);
+  EXPECT_FALSE(app->loaded(3));
+}
+
+}  // namespace
+}  // namespace nautrel
