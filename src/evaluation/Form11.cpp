@@ -11,7 +11,7 @@ Form11::Form11(Nautrel& app)
                  .labels = {"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct",
                             "Nov", "Dec"}},
                 "Diagramm Monate") {
-  setTabOrder({&Command1, &Command2});
+  setTabOrder({&Command2, &Command1});
 }
 
 void Form11::fill() {

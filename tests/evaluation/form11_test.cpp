@@ -42,6 +42,12 @@ TEST_F(GraphMonth, ThirdsAreNotRounded) {
   EXPECT_EQ(share(form, 7), "Jul 33,3333333333333");
 }
 
+TEST_F(GraphMonth, EnterLeavesIt) {
+  press(open({"05"}), Key::Enter);
+  EXPECT_FALSE(app->loaded(11));
+  EXPECT_EQ(desktop->charts, 0);
+}
+
 TEST_F(GraphMonth, CopiedAndLeft) {
   auto& form = open({"05"});
   click(form.Command1);
