@@ -40,6 +40,8 @@ class FrameWindow : public QMainWindow {
  public:
   explicit FrameWindow(MDIForm1& form) : form_(&form) {}
   void release() { form_ = nullptr; }
+  /// The size that window and frame take together once the desktop has put its frame around.
+  void fitInto(QSize outer) { outer_ = outer; }
   bool following = false;
 
  protected:
@@ -67,12 +69,15 @@ class FrameWindow : public QMainWindow {
  private:
   void report() {
     if (form_ == nullptr || following || isMinimized() || !isVisible()) return;
+    const QSize chrome = frameGeometry().size() - size();
+    if (outer_.isValid() && !chrome.isNull()) resize(std::exchange(outer_, QSize()) - chrome);
     const QRect outer = frameGeometry();
     form_->userResized(toTwips(outer.x()), toTwips(outer.y()), toTwips(outer.width()),
                        toTwips(outer.height()));
   }
 
   MDIForm1* form_;
+  QSize outer_;
 };
 
 }  // namespace
@@ -230,10 +235,12 @@ void MainFrame::show() {
   formChanged();
   flush();
   frame.following = true;
-  if (form_.windowState() == WindowState::Maximized)
+  if (form_.windowState() == WindowState::Maximized) {
     window_->showMaximized();
-  else
+  } else {
+    frame.fitInto({toPixels(form_.Width()), toPixels(form_.Height())});
     window_->show();
+  }
   frame.following = false;
   const QRect outer = window_->frameGeometry();
   form_.userResized(toTwips(outer.x()), toTwips(outer.y()), toTwips(outer.width()),
