@@ -104,6 +104,9 @@ TEST_F(Look, EveryWindowFitsTheMainWindowOfAnOldScreen) {
     auto* form = app->ifLoaded(number);
     if (form == nullptr) continue;
     EXPECT_TRUE(ground.rect().contains(window(*form)->geometry())) << form->name();
+    const auto size = window(*form)->size();
+    EXPECT_EQ(size.expandedTo(window(*form)->minimumSizeHint()), size)
+        << form->name() << " cuts what it holds";
     app->handle([&] { app->unload(number); });
   }
 }
