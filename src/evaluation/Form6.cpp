@@ -78,6 +78,18 @@ void Form6::Form_Load() {
 }
 
 void Form6::show(const StatisticFigures& figures) {
+  showFigures(figures);
+  showShares(figures);
+  auto& shared = app_.Modul1();
+  shared.LetzteNummer = figures.lastNumber;
+  shared.ErsteNummer = figures.firstNumber;
+  setCaption("Statistic over " + std::to_string(figures.dives) + " dives (" +
+             shared.ErsteNummer.joined(locale()) + " to " + shared.LetzteNummer.joined(locale()) +
+             ")");
+  Text1.setText(std::to_string(figures.dives));
+}
+
+void Form6::showFigures(const StatisticFigures& figures) {
   Label8.setCaption(figures.wholeDivetime);
   Label9.setCaption(figures.middleDivetime);
   Label14.setCaption(figures.middleDepth);
@@ -89,25 +101,19 @@ void Form6::show(const StatisticFigures& figures) {
   showRecord(figures.shortest, Label11, Command5);
   showRecord(figures.deepest, Label12, Command6);
   showRecord(figures.shallowest, Label13, Command7);
+}
+
+void Form6::showShares(const StatisticFigures& figures) {
   const auto showShare = [](const ShareFigure& share, const ShareLine& line) {
     line.count.setCaption(std::to_string(share.dives));
     line.percent.setCaption(share.percent);
   };
-  std::size_t next = 0;
-  for (const ShareLine& line : depthLines()) showShare(figures.depthBands[next++], line);
-  const auto others = otherLines();
-  next = 0;
-  for (const ShareFigure* share : {&figures.sweetWater, &figures.saltWater, &figures.fromBoat,
-                                   &figures.fromShore, &figures.repetitive, &figures.decoStop})
-    showShare(*share, others[next++]);
-
-  auto& shared = app_.Modul1();
-  shared.LetzteNummer = figures.lastNumber;
-  shared.ErsteNummer = figures.firstNumber;
-  setCaption("Statistic over " + std::to_string(figures.dives) + " dives (" +
-             shared.ErsteNummer.joined(locale()) + " to " + shared.LetzteNummer.joined(locale()) +
-             ")");
-  Text1.setText(std::to_string(figures.dives));
+  const auto depths = depthLines();
+  for (std::size_t i = 0; i < depths.size(); ++i) showShare(figures.depthBands[i], depths[i]);
+  const ShareFigure* others[] = {&figures.sweetWater, &figures.saltWater,  &figures.fromBoat,
+                                 &figures.fromShore,  &figures.repetitive, &figures.decoStop};
+  const auto lines = otherLines();
+  for (std::size_t i = 0; i < lines.size(); ++i) showShare(*others[i], lines[i]);
 }
 
 void Form6::Datenbank() {
@@ -148,29 +154,34 @@ void Form6::writeStatistic(const std::string& path, const Headings& headings) {
   file.line();
   file.line(headings.general);
   file.line("~~~~~~~~~~~~");
-  for (const auto& [caption, value, unit, dive] : figureLines()) {
-    if (dive == nullptr)
-      file.line(caption.caption(), Tab{28}, value.caption(), Tab{34}, unit.caption());
-    else
-      file.line(caption.caption(), Tab{28}, value.caption(), Tab{34}, unit.caption(), Tab{59},
-                dive->caption());
-  }
-  const auto writeShare = [&](const ShareLine& line) {
-    file.line(line.indent, line.caption.caption(), Tab{15}, line.count.caption(), Tab{19}, "=  ",
-              line.percent.caption());
-  };
+  for (const FigureLine& line : figureLines()) write(file, line);
   file.line();
   file.line(headings.depth);
   file.line("~~~~~~~");
-  for (const ShareLine& line : depthLines()) writeShare(line);
+  for (const ShareLine& line : depthLines()) write(file, line);
   file.line();
   file.line(headings.other);
   file.line("~~~~~~~~~~");
   const auto others = otherLines();
   for (std::size_t i = 0; i < others.size(); ++i) {
-    if (i != 0 && i % 2 == 0) file.line();
-    writeShare(others[i]);
+    const bool nextPair = i != 0 && i % 2 == 0;
+    if (nextPair) file.line();
+    write(file, others[i]);
   }
+}
+
+void Form6::write(TextFile& file, const FigureLine& line) {
+  const auto& [caption, value, unit, dive] = line;
+  if (dive == nullptr)
+    file.line(caption.caption(), Tab{28}, value.caption(), Tab{34}, unit.caption());
+  else
+    file.line(caption.caption(), Tab{28}, value.caption(), Tab{34}, unit.caption(), Tab{59},
+              dive->caption());
+}
+
+void Form6::write(TextFile& file, const ShareLine& line) {
+  file.line(line.indent, line.caption.caption(), Tab{15}, line.count.caption(), Tab{19}, "=  ",
+            line.percent.caption());
 }
 
 void Form6::Command1_Click() {

@@ -12,6 +12,7 @@
 namespace nautrel {
 
 class Nautrel;
+class TextFile;
 
 /// "Statistic": the figures of the whole logbook, counted when the window opens and never again.
 class Form6 : public Form {
@@ -130,7 +131,11 @@ class Form6 : public Form {
   std::vector<ShareLine> depthLines();
   std::vector<ShareLine> otherLines();
   void show(const StatisticFigures& figures);
+  void showFigures(const StatisticFigures& figures);
+  void showShares(const StatisticFigures& figures);
   void writeStatistic(const std::string& path, const Headings& headings);
+  static void write(TextFile& file, const FigureLine& line);
+  static void write(TextFile& file, const ShareLine& line);
   void dropMenu(Button& button, const char* digit);
 
   Nautrel& app_;
