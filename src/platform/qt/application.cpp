@@ -1,7 +1,7 @@
 #include "platform/qt/application.h"
 
 #include <QApplication>
-#include <QTimer>
+#include <memory>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/icons.h"
@@ -42,14 +42,16 @@ int runApplication(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
 
   QtDesktop desktop;
-  Nautrel nautrel(desktop);
-  QtLooks looks(nautrel);
+  auto nautrel = std::make_unique<Nautrel>(desktop);
+  QtLooks looks(*nautrel);
   desktop.setLooks(&looks);
-  nautrel.setLooks(&looks);
+  nautrel->setLooks(&looks);
 
-  nautrel.start();
-  const int status = desktop.ended() ? 0 : QApplication::exec();
-  if (desktop.failure()) return showFailure(*desktop.failure());
+  nautrel->start();
+  int status = desktop.ended() ? 0 : QApplication::exec();
+  if (desktop.failure()) status = showFailure(*desktop.failure());
+  // The windows go before what shows them.
+  nautrel.reset();
   return status;
 }
 
