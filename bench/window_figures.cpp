@@ -1,0 +1,137 @@
+// What a diver with 9,999 dives waits for, in the real windows: prints each figure beside its goal.
+// Run it under a display, or with QT_QPA_PLATFORM=offscreen.
+
+#include <sqlite3.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QLineEdit>
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+
+#include "bench_support.h"
+#include "dives/Form2.h"
+#include "dives/Form3.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/form_view.h"
+#include "platform/qt/qt_desktop.h"
+#include "platform/qt/qt_looks.h"
+#include "shell/Form1.h"
+#include "shell/MDIForm1.h"
+#include "shell/Modul1.h"
+#include "shell/Nautrel.h"
+
+namespace nautrel::bench {
+namespace {
+
+/// The real desktop over the bench's own logbook, with no settings of anybody's.
+class BenchDesktop : public QtDesktop {
+ public:
+  explicit BenchDesktop(std::string folder) : folder_(std::move(folder)) {}
+
+ protected:
+  std::string executableFolder() override { return folder_; }
+  std::string readSetting(const std::string&, const std::string&) override { return {}; }
+  void writeSetting(const std::string&, const std::string&, const std::string&) override {}
+
+ private:
+  std::string folder_;
+};
+
+void settleScreen() {
+  QApplication::processEvents();
+  QApplication::sendPostedEvents();
+  QApplication::processEvents();
+}
+
+double residentMegabytes() {
+  long pages = 0;
+  long resident = 0;
+  std::ifstream("/proc/self/statm") >> pages >> resident;
+  return static_cast<double>(resident * sysconf(_SC_PAGESIZE)) / (1 << 20);
+}
+
+void print(const char* what, double figure, const char* unit, double goal) {
+  std::printf("%-58s %9.2f %-3s goal %6.0f %s\n", what, figure, unit, goal,
+              figure <= goal ? "" : "MISSED");
+}
+
+/// The median of some rounds, in milliseconds.
+template <class Action>
+double median(int rounds, Action&& action) {
+  std::vector<double> times;
+  for (int round = 0; round < rounds; ++round) {
+    QElapsedTimer timer;
+    timer.start();
+    action();
+    settleScreen();
+    times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+  }
+  std::sort(times.begin(), times.end());
+  return times[times.size() / 2];
+}
+
+template <class Action>
+double once(Action&& action) {
+  return median(1, action);
+}
+
+/// Makes the last dive show a photo of twelve megapixels.
+void linkPhoto(const Logbook& logbook) {
+  const auto photo = (logbook.folder() / "photo.jpg").string();
+  QImage image(4000, 3000, QImage::Format_RGB32);
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      image.setPixel(x, y, qRgb(x * y % 251, (x + y) % 256, (x ^ y) % 256));
+  image.save(toQt(photo), "JPG", 85);
+  Bare file(logbook.path());
+  file.run(("UPDATE Logbuch SET Grafik = NULL WHERE Grafik IS NOT NULL"));
+  file.run(("UPDATE Logbuch SET Grafik = '" + photo + "' WHERE Nr = '9999'").c_str());
+  file.settle();
+}
+
+void measure(const Logbook& logbook) {
+  BenchDesktop desktop(logbook.folder().string());
+  Nautrel app(desktop);
+  QtLooks looks(app);
+  desktop.setLooks(&looks);
+  app.setLooks(&looks);
+
+  app.start();
+  settleScreen();
+  print("splash gone to main window usable", once([&] { app.Form1().Timer1.userFires(); }), "ms",
+        150);
+  print("status panel anew", median(51, [&] { app.Modul1().StatusAktualisieren(); }), "ms", 1);
+  print("View Logbook opens", once([&] { app.MDIForm1().Menü3a.userClick(); }), "ms", 100);
+  auto& view = app.Form3();
+  const auto press = [&](Navigator::Arrow arrow) { view.Data1.userPress(arrow); };
+  print("one step of the navigator", median(201, [&] { press(Navigator::Arrow::Next); }), "ms", 5);
+  print("memory with View Logbook open", residentMegabytes(), "MB", 120);
+  print("step to a dive with a photo of 12 megapixels",
+        once([&] { press(Navigator::Arrow::Last); }), "ms", 150);
+  print("memory with the photo", residentMegabytes(), "MB", 160);
+
+  app.MDIForm1().Menü2a.userClick();
+  settleScreen();
+  for (auto* box : {&app.Form2().Text2, &app.Form2().Text9, &app.Form2().Text11}) {
+    if (box == &app.Form2().Text11) app.Form2().SSTab1.userTab(1);
+    box->form().userFocus(*box);
+    const auto what = "one keystroke in " + box->name();
+    print(what.c_str(), median(51, [&] { box->form().userType("1"); }), "ms", 5);
+  }
+}
+
+}  // namespace
+}  // namespace nautrel::bench
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  Q_INIT_RESOURCE(assets);
+  const nautrel::bench::Logbook logbook;
+  nautrel::bench::linkPhoto(logbook);
+  nautrel::bench::measure(logbook);
+  return 0;
+}
