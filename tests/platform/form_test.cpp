@@ -1,0 +1,271 @@
+#include "platform/form.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/controls.h"
+#include "platform/program.h"
+#include "support/scripted_desktop.h"
+#include "support/user.h"
+
+namespace nautrel {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class Window;
+
+class Run : public Program {
+ public:
+  using Program::Program;
+  Window& open(int number = 1) { return window<Window>(number); }
+  std::function<void(Window&)> onLoad;
+  std::function<void(Window&)> onUnload;
+};
+
+/// Two boxes and a button on the first page, one box on the second; it notes its focus events.
+class Window : public Form {
+ public:
+  using App = Run;
+  explicit Window(Run& run) : Form(run, "Window", {.caption = "Window"}), run_(run) {
+    Pages.pageHolds(0, {&First, &Second, &Press, &Red, &Green, &Check});
+    Pages.pageHolds(1, {&Behind});
+    Stop.setCancel();
+    Stop.Click = [this] { log.push_back("stop"); };
+    Press.Click = [this] { log.push_back("press"); };
+    for (auto* control : controls()) {
+      control->GotFocus = [this, control] { log.push_back("+" + control->name()); };
+      control->LostFocus = [this, control] {
+        log.push_back("-" + control->name());
+        if (const auto it = rules.find(control); it != rules.end()) it->second();
+      };
+    }
+    for (auto* option : {&Red, &Green})
+      option->Click = [this, option] { log.push_back("click " + option->name()); };
+    for (auto* box : {&First, &Second})
+      box->Change = [this, box] { log.push_back("change " + box->text()); };
+  }
+
+  void Form_Load() override {
+    if (run_.onLoad) run_.onLoad(*this);
+  }
+  void Form_Unload() override {
+    if (run_.onUnload) run_.onUnload(*this);
+  }
+
+  TextBox First{*this, "First", {.maxLength = 4}};
+  TextBox Second{*this, "Second"};
+  Button Press{*this, "Press", "&Press"};
+  OptionButton Red{*this, "Red"};
+  OptionButton Green{*this, "Green"};
+  CheckBox Check{*this, "Check"};
+  TextBox Behind{*this, "Behind"};
+  TabStrip Pages{*this, "Pages", {"Front", "Back"}};
+  Button Stop{*this, "Stop", "Stop"};
+  ListBox Lines{*this, "Lines"};
+  ComboBox Choice{*this, "Choice", ComboBox::Style::ListOnly, {"a", "b"}};
+
+  Texts log;
+  std::map<const Control*, std::function<void()>> rules;
+  Texts taken() { return std::exchange(log, {}); }
+
+ private:
+  Run& run_;
+};
+
+class FormTest : public ::testing::Test {
+ protected:
+  Window& shown(int number = 1) {
+    auto& window = run.open(number);
+    window.Show();
+    window.log.clear();
+    return window;
+  }
+  template <class Action>
+  static int errorOf(Action&& action) {
+    try {
+      action();
+    } catch (const RunTimeError& error) {
+      return error.number;
+    }
+    return 0;
+  }
+
+  ScriptedDesktop desktop{"/somewhere"};
+  Run run{desktop};
+};
+
+TEST_F(FormTest, ShowingGivesTheFocusToTheFirstControlInTabOrder) {
+  auto& window = run.open();
+  EXPECT_EQ(window.activeControl(), nullptr);
+  EXPECT_EQ(errorOf([&] { window.First.SetFocus(); }), InvalidCall) << "not shown yet";
+  window.Show();
+  EXPECT_EQ(window.taken(), Texts{"+First"});
+  window.Show();
+  EXPECT_EQ(window.taken(), Texts{});
+}
+
+TEST_F(FormTest, TheFocusMovesByLostFocusGotFocusClick) {
+  auto& window = shown();
+  click(window.Press);
+  EXPECT_EQ(window.taken(), (Texts{"-First", "+Press", "press"}));
+  press(window, Key::Tab);
+  press(window, Key::BackTab);
+  EXPECT_EQ(window.taken(), (Texts{"-Press", "+Red", "-Red", "+Press"}));
+  press(window, Key::Enter);
+  EXPECT_EQ(window.taken(), Texts{"press"});
+}
+
+TEST_F(FormTest, TwoRulesThatKeepTheFocusDoNotChaseEachOther) {
+  auto& window = shown();
+  window.rules[&window.First] = [&] { window.First.SetFocus(); };
+  window.rules[&window.Second] = [&] { window.Second.SetFocus(); };
+  click(window.Press);
+  EXPECT_EQ(window.taken(), (Texts{"-First", "+First"})) << "the click is swallowed";
+  focus(window.Second);
+  EXPECT_EQ(window.activeControl(), &window.First);
+}
+
+TEST_F(FormTest, ARuleMaySendTheFocusElsewhere) {
+  auto& window = shown();
+  window.rules[&window.First] = [&] { window.Check.SetFocus(); };
+  focus(window.Second);
+  EXPECT_EQ(window.taken(), (Texts{"-First", "+Check"}));
+}
+
+TEST_F(FormTest, DisablingOrHidingWhatHasTheFocusMovesItOn) {
+  auto& window = shown();
+  window.First.setEnabled(false);
+  EXPECT_EQ(window.activeControl(), &window.Second);
+  window.Second.setVisible(false);
+  EXPECT_EQ(window.activeControl(), &window.Press);
+  for (auto* control : {&window.First, &window.Second})
+    EXPECT_EQ(errorOf([&] { control->SetFocus(); }), InvalidCall);
+}
+
+TEST_F(FormTest, APageBehindTakesNoFocusAndEscWorksFromEveryPage) {
+  auto& window = shown();
+  window.Behind.SetFocus();
+  EXPECT_EQ(window.activeControl(), &window.First);
+  EXPECT_EQ(window.Pages.Tab(), 0);
+  choose(window.Pages, 1);
+  type(window.Behind, "x");
+  EXPECT_EQ(window.Behind.text(), "x");
+  window.taken();
+  press(window, Key::Escape);
+  EXPECT_EQ(window.taken(), Texts{"stop"}) << "the focus stays where it is";
+}
+
+TEST_F(FormTest, ABoxCutsWhatDoesNotFitAndTellsRealChangesOnly) {
+  auto& window = shown();
+  window.First.setText("äöüßx");
+  window.First.setText("äöüß");
+  EXPECT_EQ(window.taken(), Texts{"change äöüß"});
+  window.First.userSelect(1, 2);
+  typeOn(window, "ab");
+  EXPECT_EQ(window.First.text(), "äabß");
+  window.First.userSelect(1, 1);
+  window.First.userInsert("12345");
+  EXPECT_EQ(window.First.text(), "ä1bß") << "an insertion is cut, not the tail";
+  press(window, Key::Backspace);
+  EXPECT_EQ(window.First.text(), "äbß");
+}
+
+TEST_F(FormTest, OptionsOfAContainerAreExclusiveAndClickOnlyWhenTheyGoOn) {
+  auto& window = shown();
+  click(window.Red);
+  click(window.Red);
+  window.Green.setOn(true);
+  window.Green.setOn(false);
+  EXPECT_FALSE(window.Red.on() || window.Green.on());
+  EXPECT_EQ(window.taken(), (Texts{"-First", "+Red", "click Red", "click Green"}));
+  bool mouse = false;
+  window.Green.MouseUp = [&] { mouse = true; };
+  press(window, Key::Down);
+  EXPECT_TRUE(window.Green.on());
+  EXPECT_FALSE(mouse) << "an arrow key is no mouse";
+  press(window, Key::Space);
+  EXPECT_TRUE(mouse);
+}
+
+TEST_F(FormTest, ListsRefuseWhatIsNotThere) {
+  auto& window = shown();
+  window.Lines.AddItem("one");
+  int clicks = 0;
+  window.Lines.Click = [&] { ++clicks; };
+  window.Lines.setListIndex(0);
+  window.Lines.setListIndex(0);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(errorOf([&] { window.Lines.setListIndex(1); }), InvalidPropertyValue);
+  EXPECT_EQ(window.Lines.List(7), "");
+  EXPECT_EQ(errorOf([&] { window.Choice.setText("c"); }), TextIsReadOnly);
+  window.Choice.setText("b");
+  EXPECT_EQ(window.Choice.ListIndex(), 1);
+}
+
+TEST_F(FormTest, AWindowThatUnloadsItselfInItsLoadIsNeverSeen) {
+  run.onLoad = [](Window& window) { window.Unload(); };
+  run.handle([&] { run.open().Show(); });
+  EXPECT_FALSE(run.loaded(1));
+  EXPECT_EQ(run.activeForm(), nullptr);
+}
+
+TEST_F(FormTest, AnUnloadedWindowForgetsAndTheNextOneIsNew) {
+  run.handle([&] {
+    auto& window = shown();
+    window.First.setText("kept");
+    window.Unload();
+    EXPECT_FALSE(run.loaded(1));
+    EXPECT_EQ(window.First.text(), "kept") << "its object lives as long as the handler";
+    window.Unload();
+    EXPECT_EQ(run.open().First.text(), "");
+  });
+}
+
+TEST_F(FormTest, LoadAndUnloadAreRoots) {
+  run.onUnload = [](Window&) { raise(TypeMismatch); };
+  shown();
+  bool wentOn = false;
+  run.handle([&] {
+    resumeNext([&] { run.unload(1); });
+    wentOn = true;
+  });
+  EXPECT_FALSE(wentOn);
+  EXPECT_EQ(desktop.failure()->number, TypeMismatch);
+}
+
+TEST_F(FormTest, AfterTheFatalEndNothingRunsOn) {
+  auto& window = shown();
+  bool wroteOn = false;
+  desktop.whileBoxIsOpen = [&] { run.handle([] { raise(Overflow); }); };
+  window.Press.Click = [&] {
+    resumeNext([&] { desktop.MsgBox("a box"); });
+    wroteOn = true;
+  };
+  click(window.Press);
+  EXPECT_FALSE(wroteOn);
+  EXPECT_EQ(desktop.failure()->number, Overflow);
+  window.taken();
+  type(window.Second, "x");
+  EXPECT_EQ(window.taken(), Texts{});
+}
+
+TEST_F(FormTest, ADisabledWindowTakesNoInput) {
+  auto& window = shown();
+  window.setEnabled(false);
+  type(window.Second, "x");
+  click(window.Check);
+  EXPECT_EQ(window.Second.text(), "");
+  EXPECT_FALSE(window.Check.on());
+}
+
+TEST_F(FormTest, ChangingTheWindowRaisesNoFocusEvent) {
+  auto& one = shown(1);
+  auto& two = shown(2);
+  EXPECT_EQ(run.activeForm(), &two);
+  one.Second.SetFocus();
+  EXPECT_EQ(run.activeForm(), &one);
+  EXPECT_EQ(two.taken(), Texts{});
+}
+
+}  // namespace
+}  // namespace nautrel
