@@ -1,4 +1,4 @@
-// What a diver with 9,999 dives waits for, in the real windows: prints each figure beside its goal.
+// What a diver with 9,998 dives waits for, in the real windows: prints each figure beside its goal.
 // Run it under a display, or with QT_QPA_PLATFORM=offscreen.
 
 #include <sqlite3.h>
@@ -36,6 +36,10 @@ class BenchDesktop : public QtDesktop {
   std::string executableFolder() override { return folder_; }
   std::string readSetting(const std::string&, const std::string&) override { return {}; }
   void writeSetting(const std::string&, const std::string&, const std::string&) override {}
+  int showMessage(const std::string& prompt, int, const std::string&) override {
+    std::printf("A message came: %s\n", prompt.c_str());
+    return kOk;
+  }
 
  private:
   std::string folder_;
@@ -89,7 +93,7 @@ void linkPhoto(const Logbook& logbook) {
   image.save(toQt(photo), "JPG", 85);
   Bare file(logbook.path());
   file.run(("UPDATE Logbuch SET Grafik = NULL WHERE Grafik IS NOT NULL"));
-  file.run(("UPDATE Logbuch SET Grafik = '" + photo + "' WHERE Nr = '9999'").c_str());
+  file.run(("UPDATE Logbuch SET Grafik = '" + photo + "' WHERE Nr = '9998'").c_str());
   file.settle();
 }
 
@@ -130,7 +134,8 @@ void measure(const Logbook& logbook) {
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   Q_INIT_RESOURCE(assets);
-  const nautrel::bench::Logbook logbook;
+  // One less than a full logbook, so that another dive can still be entered.
+  const nautrel::bench::Logbook logbook(nautrel::bench::kFullLogbook - 1);
   nautrel::bench::linkPhoto(logbook);
   nautrel::bench::measure(logbook);
   return 0;
