@@ -14,7 +14,7 @@ using Texts = std::vector<std::string>;
 
 class Window;
 
-class Run : public Program {
+class Scene : public Program {
  public:
   using Program::Program;
   Window& open(int number = 1) { return window<Window>(number); }
@@ -25,8 +25,8 @@ class Run : public Program {
 /// Two boxes and a button on the first page, one box on the second; it notes its focus events.
 class Window : public Form {
  public:
-  using App = Run;
-  explicit Window(Run& run) : Form(run, "Window", {.caption = "Window"}), run_(run) {
+  using App = Scene;
+  explicit Window(Scene& run) : Form(run, "Window", {.caption = "Window"}), run_(run) {
     Pages.pageHolds(0, {&First, &Second, &Press, &Red, &Green, &Check});
     Pages.pageHolds(1, {&Behind});
     Stop.setCancel();
@@ -69,7 +69,7 @@ class Window : public Form {
   Texts taken() { return std::exchange(log, {}); }
 
  private:
-  Run& run_;
+  Scene& run_;
 };
 
 class FormTest : public ::testing::Test {
@@ -91,7 +91,7 @@ class FormTest : public ::testing::Test {
   }
 
   ScriptedDesktop desktop{"/somewhere"};
-  Run run{desktop};
+  Scene run{desktop};
 };
 
 TEST_F(FormTest, ShowingGivesTheFocusToTheFirstControlInTabOrder) {
