@@ -22,7 +22,7 @@ class SubWindow : public QMdiSubWindow {
     setAttribute(Qt::WA_DeleteOnClose, false);
     setWindowIcon(namedIcon("nautrel"));
     connect(this, &QMdiSubWindow::windowStateChanged, this,
-            [this](Qt::WindowStates, Qt::WindowStates now) { stateChanged(now); });
+            [this](Qt::WindowStates before, Qt::WindowStates now) { stateChanged(before, now); });
   }
 
   void release() { form_ = nullptr; }
@@ -47,8 +47,10 @@ class SubWindow : public QMdiSubWindow {
     if (form_ == nullptr || following || isMinimized() || !form_->visible()) return;
     form_->userResized(toTwips(x()), toTwips(y()), toTwips(width()), toTwips(height()));
   }
-  void stateChanged(Qt::WindowStates now) {
-    if (form_ == nullptr || following) return;
+  // Coming to the front and leaving it are states of the window too, but none of the form's.
+  void stateChanged(Qt::WindowStates before, Qt::WindowStates now) {
+    constexpr auto kSizes = Qt::WindowMinimized | Qt::WindowMaximized;
+    if (form_ == nullptr || following || !((before ^ now) & kSizes)) return;
     form_->userState(now & Qt::WindowMinimized   ? WindowState::Minimized
                      : now & Qt::WindowMaximized ? WindowState::Maximized
                                                  : WindowState::Normal);
@@ -57,9 +59,9 @@ class SubWindow : public QMdiSubWindow {
   Form* form_;
 };
 
-ChildWindow::ChildWindow(QtLooks& looks, Form& form) : FormView(looks, form) {
-  const bool sizable = isSizable(form.name());
-  window_ = new SubWindow(form, sizable);
+ChildWindow::ChildWindow(QtLooks& looks, Form& form)
+    : FormView(looks, form), sizable_(isSizable(form.name())) {
+  window_ = new SubWindow(form, sizable_);
   window_->setWidget(makeContent(form.name()));
   if (auto* frame = looks.mainFrame()) frame->area().addSubWindow(window_, window_->windowFlags());
   bindControls();
@@ -69,10 +71,7 @@ ChildWindow::ChildWindow(QtLooks& looks, Form& form) : FormView(looks, form) {
   for (auto* layout : window_->findChildren<QLayout*>()) layout->invalidate();
   const QSize size = window_->sizeHint();
   window_->following = true;
-  if (sizable)
-    window_->resize(size);
-  else
-    window_->setFixedSize(size);
+  giveSize(size);
   window_->following = false;
   form.setWidth(toTwips(size.width()));
   form.setHeight(toTwips(size.height()));
@@ -122,7 +121,7 @@ void ChildWindow::pushForm() {
     content->setEnabled(model.enabled());
   if (model.windowState() == WindowState::Normal) {
     const QSize size(toPixels(model.Width()), toPixels(model.Height()));
-    if (window_->size() != size && !window_->isMinimized()) window_->resize(size);
+    if (window_->size() != size && !window_->isMinimized()) giveSize(size);
     const QPoint place(toPixels(model.Left()), toPixels(model.Top()));
     if (window_->pos() != place && !window_->isMinimized()) window_->move(place);
   }
@@ -130,12 +129,24 @@ void ChildWindow::pushForm() {
   window_->following = false;
 }
 
+void ChildWindow::giveSize(const QSize& size) {
+  if (sizable_)
+    window_->resize(size);
+  else
+    window_->setFixedSize(size);
+}
+
+// A fixed size would hold a minimized window open.
 void ChildWindow::pushState() {
   if (!form().visible()) return;
   const bool small = form().windowState() == WindowState::Minimized;
   if (small == window_->isMinimized()) return;
-  if (small) return window_->showMinimized();
+  if (small) {
+    window_->setMinimumSize(0, 0);
+    return window_->showMinimized();
+  }
   window_->showNormal();
+  giveSize({toPixels(form().Width()), toPixels(form().Height())});
   activate();
 }
 

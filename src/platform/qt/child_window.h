@@ -25,8 +25,10 @@ class ChildWindow : public FormView {
   void pushForm() override;
 
  private:
+  void giveSize(const QSize& size);
   void pushState();
 
+  const bool sizable_;
   QPointer<SubWindow> window_;
 };
 
