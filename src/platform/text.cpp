@@ -81,6 +81,19 @@ std::size_t byteOfCharacter(std::string_view text, std::size_t index) {
   return byte;
 }
 
+char32_t characterFrom(std::string_view text, std::size_t byte) {
+  return characterAt(text, byte).code;
+}
+
+char32_t characterBefore(std::string_view text, std::size_t byte) {
+  const auto continues = [&](std::size_t at) {
+    return (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;
+  };
+  std::size_t start = byte - 1;
+  while (start > 0 && continues(start)) --start;
+  return characterAt(text, start).code;
+}
+
 bool isWordCharacter(char32_t character) {
   if (character == U'_') return true;
   switch (utf8proc_category(static_cast<utf8proc_int32_t>(character))) {

@@ -61,6 +61,9 @@ std::size_t characters(std::string_view text);
 std::string firstCharacters(std::string_view text, std::size_t count);
 /// The byte at which character `index` starts; the size of the text if it has fewer.
 std::size_t byteOfCharacter(std::string_view text, std::size_t index);
+/// The character that starts at a byte of the text, and the one that ends before it.
+char32_t characterFrom(std::string_view text, std::size_t byte);
+char32_t characterBefore(std::string_view text, std::size_t byte);
 bool isWordCharacter(char32_t character);
 
 /// To and from the 8-bit western code page (1252). What it lacks becomes "?".

@@ -10,6 +10,10 @@
 #include "evaluation/Form11.h"
 #include "evaluation/Form6.h"
 #include "printing/Form9.h"
+#include "search/Form12.h"
+#include "search/Form14.h"
+#include "search/Form19.h"
+#include "search/Form20.h"
 #include "shell/Form1.h"
 #include "shell/Form16.h"
 #include "shell/Form18.h"
@@ -57,6 +61,12 @@ class Form10& Nautrel::Form10() {
 class Form11& Nautrel::Form11() {
   return window<class Form11>(11);
 }
+class Form12& Nautrel::Form12() {
+  return window<class Form12>(12);
+}
+class Form14& Nautrel::Form14() {
+  return window<class Form14>(14);
+}
 class Form15& Nautrel::Form15() {
   return window<class Form15>(15);
 }
@@ -65,6 +75,12 @@ class Form16& Nautrel::Form16() {
 }
 class Form18& Nautrel::Form18() {
   return window<class Form18>(18);
+}
+class Form19& Nautrel::Form19() {
+  return window<class Form19>(19);
+}
+class Form20& Nautrel::Form20() {
+  return window<class Form20>(20);
 }
 
 void Nautrel::show(int number) {
@@ -83,12 +99,18 @@ void Nautrel::show(int number) {
       return Form10().Show();
     case 11:
       return Form11().Show();
+    case 12:
+      return Form12().Show();
+    case 14:
+      return Form14().Show();
     case 15:
       return Form15().Show();
     case 16:
       return Form16().Show();
     case 18:
       return Form18().Show();
+    case 20:
+      return Form20().Show();
     default:
       return;
   }

@@ -16,9 +16,13 @@ class Form7;
 class Form9;
 class Form10;
 class Form11;
+class Form12;
+class Form14;
 class Form15;
 class Form16;
 class Form18;
+class Form19;
+class Form20;
 class MDIForm1;
 class Modul1;
 
@@ -44,9 +48,13 @@ class Nautrel : public Program {
   class Form9& Form9();
   class Form10& Form10();
   class Form11& Form11();
+  class Form12& Form12();
+  class Form14& Form14();
   class Form15& Form15();
   class Form16& Form16();
   class Form18& Form18();
+  class Form19& Form19();
+  class Form20& Form20();
 
   /// Loads and shows the child window of that number.
   void show(int number);

@@ -1,0 +1,38 @@
+#include "search/Form19.h"
+
+#include "dives/Form3.h"
+#include "shell/Modul1.h"
+#include "shell/Nautrel.h"
+#include "store/contract.h"
+
+namespace nautrel {
+
+Form19::Form19(Nautrel& app)
+    : Form(app, "Form19", {.caption = "found dives:", .width = 1500, .height = 6300}), app_(app) {
+  List1.Click = [this] { List1_Click(); };
+}
+
+void Form19::Form_Load() {
+  app_.Modul1().NummernLesen();
+}
+
+void Form19::List1_Click() {
+  if (Text1.text() == "anzeigen") Anzeigen();
+  if (Text1.text() == "bearbeiten") Bearbeiten();
+  if (Text1.text() == "löschen") Löschen();
+}
+
+void Form19::Anzeigen() {
+  app_.Modul1().ListeNachziehen = true;
+  jump(app_.Form3().Data1.Recordset());
+}
+
+void Form19::Bearbeiten() {}
+void Form19::Löschen() {}
+
+void Form19::jump(Recordset& rows) {
+  if (List1.text() == app_.Modul1().LetzteNummer.joined(locale())) return rows.MoveLast();
+  rows.Move(toInt32(number(List1.text()) - rows.Fields(Feld::Nr).number(locale())));
+}
+
+}  // namespace nautrel

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/form.h"
+#include "store/database.h"
+
+namespace nautrel {
+
+class Nautrel;
+
+/// "found dives:": the hits of a search beside the record window. A click on a line moves that
+/// window to the dive. The search fills, sizes and places it.
+class Form19 : public Form {
+ public:
+  using App = Nautrel;
+  explicit Form19(Nautrel& app);
+
+  /// The width of the list in twips; the window's title needs it.
+  static constexpr double kListWidth = 2000;
+
+  void Form_Load() override;
+  void List1_Click();
+  void Anzeigen();
+  void Bearbeiten();
+  void Löschen();
+
+  ListBox List1{*this, "List1"};
+  /// The record window in use: "anzeigen", "bearbeiten" or "löschen".
+  TextBox Text1{*this, "Text1", {.visible = false}};
+
+ private:
+  void jump(Recordset& rows);
+
+  Nautrel& app_;
+};
+
+}  // namespace nautrel

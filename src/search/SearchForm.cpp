@@ -1,0 +1,187 @@
+#include "search/SearchForm.h"
+
+#include <utility>
+
+#include "dives/Form3.h"
+#include "platform/errors.h"
+#include "search/Form19.h"
+#include "shell/MDIForm1.h"
+#include "shell/Modul1.h"
+#include "shell/Nautrel.h"
+#include "shell/number_boxes.h"
+#include "store/contract.h"
+
+namespace nautrel {
+namespace {
+
+constexpr double kLeastNumber = 1;
+
+}  // namespace
+
+SearchForm::SearchForm(Nautrel& app, std::string name, Design design, Differences differences)
+    : Form(app, std::move(name), std::move(design)),
+      Command3(*this, "Command3", differences.view),
+      Command4(*this, "Command4", differences.close),
+      app_(app),
+      differences_(std::move(differences)) {
+  Command1.setDefault(true);
+  Command2.setEnabled(false);
+  Command4.setCancel();
+  Frame2.holds({&Option1, &Option2, &Option3});
+  bindRange();
+  Option1.Click = [this] { Command3.setCaption("View"); };
+  Option2.Click = [this] { Command3.setCaption("Edit"); };
+  Option3.Click = [this] { Command3.setCaption("Delete"); };
+  List1.Click = [this] { List1_Click(); };
+  List1.DblClick = [this] { List1_DblClick(); };
+  Command1.Click = [this] { Command1_Click(); };
+  Command2.Click = [this] { neue_Suche(); };
+  Command3.Click = [this] { Command3_Click(); };
+  Command4.Click = [this] { Unload(); };
+}
+
+// Spinning stops at 1 and not at the first number of the logbook; the check of the range tells of
+// what lies below that.
+void SearchForm::bindRange() {
+  const auto range = [this] { return SpinRange{"1", kLeastNumber, app_.Modul1().LetzteNummer}; };
+  const auto bind = [&](TextBox& box, SpinButton& spin) {
+    if (differences_.rangeFiltered)
+      box.Change = [this, &box] { keepWholeNumber(box, kLeastNumber, locale()); };
+    spin.SpinUp = [this, &box, range] { spinUp(box, range(), locale()); };
+    spin.SpinDown = [this, &box, range] { spinDown(box, range(), locale()); };
+  };
+  bind(Text1, SpinButton1);
+  bind(Text2, SpinButton2);
+}
+
+void SearchForm::Form_Load() {
+  Hourglass wait(app_.MDIForm1());
+  placeInFrame(*this, app_.MDIForm1());
+  auto& shared = app_.Modul1();
+  shared.NummernLesen();
+  Text1.setText(shared.ErsteNummer.text(locale()));
+  Text2.setText(shared.LetzteNummer.text(locale()));
+}
+
+void SearchForm::Form_Unload() {
+  app_.Modul1().*differences_.opened = false;
+  app_.unload(19);
+}
+
+void SearchForm::Überprüfen() {
+  const auto& shared = app_.Modul1();
+  Text3.setText("");
+  Text3.setText(
+      checkRange(desktop(), Text1, Text2, shared.ErsteNummer, shared.LetzteNummer,
+                 {"First dive-# not valid", "Last dive-# not valid", differences_.order}));
+}
+
+template <class Statement>
+void SearchForm::run(Statement&& statement) const {
+  differences_.resumesNext ? resumeNext(statement) : statement();
+}
+
+// The way to the first row ends the program where there is none, whatever rule the pass has: under
+// the resume-next rule it would never end.
+void SearchForm::scan(const Columns& columns, const RowTest& isHit) {
+  auto rows = app_.workspace().OpenDatabase(app_.databasePath()).OpenRecordset("Logbuch", columns);
+  rows.MoveFirst();
+  while (rows.Fields(Feld::Nr).joined(locale()) != Text1.text()) rows.MoveNext();
+
+  auto& shared = app_.Modul1();
+  auto& progress = app_.MDIForm1().ProgressBar1;
+  shared.FortschrittMaximum = number(Text2.text()) - number(Text1.text()) + 1;
+  shared.FortschrittAnzeigen();
+  for (double counter = 1; counter <= shared.FortschrittMaximum; ++counter) {
+    if (isHit(rows)) addHit(rows);
+    run([&] { rows.MoveNext(); });
+    progress.setValue(counter);
+  }
+}
+
+void SearchForm::addHit(const Recordset& row) {
+  run([&] { List1.AddItem(row.Fields(Feld::Nr).text(locale())); });
+  Label4.setCaption(text(number(Label4.caption()) + 1));
+  List1.Refresh();
+  Label4.Refresh();
+}
+
+void SearchForm::showOutcome(const std::string& notFound) {
+  Command2.setEnabled(true);
+  Command2.setDefault(true);
+  List1.SetFocus();
+  app_.Modul1().FortschrittBeenden();
+  if (Label4.caption() != "0") return;
+  MsgBox(notFound);
+  neue_Suche();
+}
+
+void SearchForm::neue_Suche() {
+  List1.Clear();
+  clearTerm();
+  Label4.setCaption("0");
+  Frame2.setCaption("Dive");
+  termBox().SetFocus();
+  Command1.setEnabled(true);
+  Command2.setEnabled(false);
+  Command1.setDefault(true);
+}
+
+void SearchForm::List1_Click() {
+  Frame2.setCaption("Dive " + List1.text());
+}
+
+void SearchForm::Command3_Click() {
+  if (List1.ListIndex() >= 0) openHit();
+}
+
+void SearchForm::List1_DblClick() {
+  openHit();
+}
+
+void SearchForm::openHit() {
+  setWindowState(WindowState::Minimized);
+  app_.Modul1().*differences_.opened = true;
+  if (Option1.on()) Anzeigen();
+  if (Option2.on()) Bearbeiten();
+  if (Option3.on()) Löschen();
+}
+
+void SearchForm::Anzeigen() {
+  openIn(&Nautrel::Form3, "anzeigen", true);
+}
+void SearchForm::Bearbeiten() {}
+void SearchForm::Löschen() {}
+
+template <class RecordForm>
+void SearchForm::openIn(RecordForm& (Nautrel::*window)(), const char* mode, bool listFollows) {
+  (app_.*window)().Show();
+  auto& record = (app_.*window)();
+  record.Command3.setCaption("&Back");
+  const double target = number(List1.text());
+  auto& rows = record.Data1.Recordset();
+  const int difference = toInt32(target - rows.Fields(Feld::Nr).number(locale()));
+  if (listFollows) app_.Modul1().ListeNachziehen = true;
+  rows.Move(difference);
+  showFoundDives(record, mode);
+}
+
+// The mode comes last, so that the click which the selection raises does not jump once more.
+void SearchForm::showFoundDives(const Form& beside, const char* mode) {
+  app_.Form19().Show();
+  auto& found = app_.Form19();
+  found.setWidth(Form19::kListWidth + 100);
+  found.setHeight(beside.Height());
+  found.setLeft(beside.Left() - found.Width());
+  found.setTop(beside.Top());
+  for (const auto& line : List1.lines()) found.List1.AddItem(line);
+  found.List1.setListIndex(List1.ListIndex());
+  found.Text1.setText(mode);
+}
+
+std::string joinedDate(const Recordset& row, const Locale& locale) {
+  return row.Fields(Feld::Tag).joined(locale) + "." + row.Fields(Feld::Monat).joined(locale) + "." +
+         row.Fields(Feld::Jahr).joined(locale);
+}
+
+}  // namespace nautrel

@@ -1,0 +1,147 @@
+#include "search/search_test.h"
+
+namespace nautrel {
+namespace {
+
+enum class Mode { Less, Equal, More };
+
+/// Dives of one column each; the column's box alone is on.
+struct NumberCase {
+  Mode mode;
+  const char* typed;
+  Texts hits;
+};
+
+class NumberSearch : public SearchTest {
+ protected:
+  /// Hits of a search in the tank sizes "29", "30", "30.0", "", "x", NULL, "1,000".
+  void startWithTanks() {
+    startWith({{{"Liter", "29"}},
+               {{"Liter", "30"}},
+               {{"Liter", "30.0"}},
+               {{"Liter", ""}},
+               {{"Liter", "x"}},
+               {},
+               {{"Liter", "1,000"}}});
+  }
+  static void searchIn(Form14& form, CheckBox& box) {
+    for (auto* other : {&form.Check1, &form.Check2, &form.Check3, &form.Check4, &form.Check5})
+      turn(*other, false);
+    turn(box, true);
+  }
+  static OptionButton& option(Form14& form, Mode mode) {
+    return mode == Mode::Less ? form.Option4 : mode == Mode::Equal ? form.Option5 : form.Option6;
+  }
+  Texts found(Form14& form, Mode mode, const char* typed) {
+    click(option(form, mode));
+    return search(form, typed);
+  }
+};
+
+// In mode equal a tank of NULL counts as equal at the columns before it, all of them NULL here.
+TEST_F(NumberSearch, ComparesNumbersInTwoModesAndTextInOne) {
+  startWithTanks();
+  auto& form = numbers();
+  searchIn(form, form.Check9);
+  const NumberCase cases[] = {
+      {Mode::Less, "30", {"1", "4", "5"}},
+      {Mode::More, "30", {"4", "5", "7"}},
+      {Mode::More, "29.5", {"2", "3", "4", "5", "7"}},
+      {Mode::Less, "", {"1", "2", "3", "4", "5", "6", "7"}},
+      {Mode::More, "deep", {"1", "2", "3", "4", "5", "6", "7"}},
+  };
+  for (const auto& [mode, typed, hits] : cases)
+    EXPECT_EQ(found(form, mode, typed), hits) << static_cast<int>(mode) << ' ' << typed;
+  turn(form.Check9, false);
+  EXPECT_EQ(found(form, Mode::More, ""), Texts{});
+  EXPECT_EQ(desktop->texts(), (Texts{"größer '' not found"}));
+}
+
+TEST_F(NumberSearch, ReadsNumbersAsTheLocaleWritesThem) {
+  desktop->places = commaLocale();
+  startWith({{{"Tiefe", "30,5"}}, {{"Tiefe", "30.5"}}});
+  auto& form = numbers();
+  searchIn(form, form.Check2);
+  EXPECT_EQ(found(form, Mode::Less, "30,6"), (Texts{"1"}));
+  EXPECT_EQ(found(form, Mode::More, "304"), (Texts{"2"}));
+}
+
+TEST_F(NumberSearch, FirstEqualColumnDecidesByItsBox) {
+  const Dive full = {{"Zeit", "30"},   {"Tiefe", "30"}, {"Tag", "07"},  {"Monat", "03"},
+                     {"Jahr", "1999"}, {"Bars", "200"}, {"Bare", "50"}, {"Liter", "12"},
+                     {"Höhe", "0"},    {"Blei", "8"}};
+  auto noTime = full;
+  noTime["Zeit"] = Value::null();
+  startWith({full, noTime});
+  auto& form = numbers();
+  EXPECT_EQ(search(form, "30"), (Texts{"1", "2"}));
+  EXPECT_EQ(search(form, "1999"), (Texts{"1", "2"}));
+  for (const char* other : {"30.0", "030", " 30", "8"}) {
+    EXPECT_EQ(search(form, other), (Texts{"2"})) << other << ": a column that is NULL is equal";
+  }
+  turn(form.Check11, true);
+  EXPECT_EQ(search(form, "8"), (Texts{"1", "2"}));
+  turn(form.Check1, false);
+  EXPECT_EQ(search(form, "30"), Texts{});
+  EXPECT_EQ(desktop->texts(), (Texts{"'30' not found"}));
+}
+
+TEST_F(NumberSearch, DateIsSearchedByItselfAndByItsCharacters) {
+  const Dive dive = {{"Zeit", "30"},   {"Tiefe", "60"}, {"Tag", "07"}, {"Monat", "03"},
+                     {"Jahr", "1999"}, {"Bars", "1"},   {"Bare", "1"}, {"Liter", "1"},
+                     {"Höhe", "1"},    {"Blei", "1"}};
+  startWith({dive});
+  auto& form = numbers();
+  click(form.Option6);
+  turn(form.Check3, false);
+  click(form.Check6);
+  for (auto* box : {&form.Check3, &form.Check4, &form.Check5}) {
+    EXPECT_FALSE(box->on());
+    EXPECT_FALSE(box->enabled());
+  }
+  EXPECT_FALSE(form.Option4.enabled());
+  EXPECT_FALSE(form.Option6.enabled());
+  EXPECT_TRUE(form.Option5.on());
+  EXPECT_EQ(search(form, "07.03.1999"), (Texts{"1"}));
+  EXPECT_EQ(search(form, "7.3.1999"), Texts{});
+  EXPECT_EQ(desktop->texts(), (Texts{"'7.3.1999' not found"}));
+  click(form.Check6);
+  for (auto* box : {&form.Check3, &form.Check4, &form.Check5}) {
+    EXPECT_TRUE(box->on());
+    EXPECT_TRUE(box->enabled());
+  }
+  EXPECT_TRUE(form.Option4.enabled());
+  EXPECT_TRUE(form.Option5.on());
+  EXPECT_EQ(search(form, "07.03.1999"), Texts{});
+  EXPECT_EQ(desktop->texts(), (Texts{"'07.03.1999' not found"}));
+}
+
+TEST_F(NumberSearch, TellsInItsModesWordThatNothingWasFoundAndIsIdleAgain) {
+  startWith({{{"Zeit", "30"}}});
+  auto& form = numbers();
+  searchIn(form, form.Check1);
+  for (const auto& [mode, message] : {std::pair{Mode::Less, "kleiner '30' not found"},
+                                      std::pair{Mode::More, "größer '30' not found"}}) {
+    EXPECT_EQ(found(form, mode, "30"), Texts{});
+    EXPECT_EQ(desktop->texts(), (Texts{message}));
+    EXPECT_TRUE(form.Text4.hasFocus());
+    EXPECT_EQ(form.Text4.text(), "");
+    EXPECT_TRUE(form.Command1.enabled());
+  }
+}
+
+TEST_F(NumberSearch, KeepsTheNumberLockedAfterAnInvalidRange) {
+  startWith({{{"Zeit", "30"}}, {{"Zeit", "31"}}});
+  auto& form = numbers();
+  range(form, "2", "1");
+  search(form, "30");
+  EXPECT_EQ(desktop->texts().size(), 1u);
+  EXPECT_FALSE(form.Text4.enabled());
+  EXPECT_FALSE(form.Command2.enabled());
+  range(form, "1", "1");
+  click(form.Command1);
+  EXPECT_EQ(form.List1.lines(), (Texts{"1"}));
+}
+
+}  // namespace
+}  // namespace nautrel
