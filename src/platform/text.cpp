@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace nautrel {
 namespace {
@@ -32,6 +34,26 @@ void append(std::string& text, char32_t code) {
   text.append(reinterpret_cast<const char*>(bytes.data()), static_cast<std::size_t>(count));
 }
 
+// Whole dives are lowered for each search, and most of their characters are plain: those go by
+// runs, and the runs by whole words of the machine.
+std::size_t plainUntil(std::string_view text, std::size_t byte) {
+  constexpr std::uint64_t kForeign = 0x8080808080808080;
+  std::uint64_t word = 0;
+  for (; byte + sizeof word <= text.size(); byte += sizeof word) {
+    std::memcpy(&word, text.data() + byte, sizeof word);
+    if ((word & kForeign) != 0) break;
+  }
+  while (byte < text.size() && static_cast<unsigned char>(text[byte]) < 0x80) ++byte;
+  return byte;
+}
+
+void appendPlainLower(std::string& lower, std::string_view run) {
+  const auto start = lower.size();
+  lower += run;
+  for (auto byte = start; byte < lower.size(); ++byte)
+    lower[byte] += static_cast<char>(lower[byte] >= 'A' && lower[byte] <= 'Z' ? 'a' - 'A' : 0);
+}
+
 // What the code page holds from byte 0x80 on; from 0xA0 on it is the same as Unicode. The five
 // bytes without a character stand for the control characters of the same number.
 constexpr unsigned kFirstOwn = 0x80;
@@ -53,10 +75,12 @@ std::string lowerCase(std::string_view text) {
   std::string lower;
   lower.reserve(text.size());
   for (std::size_t byte = 0; byte < text.size();) {
+    const auto plain = plainUntil(text, byte);
+    appendPlainLower(lower, text.substr(byte, plain - byte));
+    byte = plain;
+    if (byte == text.size()) break;
     const auto [code, bytes] = characterAt(text, byte);
-    if (code < 0x80)
-      lower += static_cast<char>(code >= 'A' && code <= 'Z' ? code + ('a' - 'A') : code);
-    else if (code == kBroken)
+    if (code == kBroken)
       lower += text.substr(byte, bytes);
     else
       append(lower, static_cast<char32_t>(utf8proc_tolower(static_cast<utf8proc_int32_t>(code))));

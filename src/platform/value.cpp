@@ -20,7 +20,12 @@ std::string Value::text(const Locale& locale) const {
   return joined(locale);
 }
 
-std::string Value::joined(const Locale& locale) const {
+std::string Value::joined(const Locale& locale) && {
+  if (auto* text = std::get_if<std::string>(&held_)) return std::move(*text);
+  return std::as_const(*this).joined(locale);
+}
+
+std::string Value::joined(const Locale& locale) const& {
   if (const auto* text = std::get_if<std::string>(&held_)) return *text;
   if (const auto* number = std::get_if<double>(&held_)) return generalText(*number, locale);
   if (const auto* flag = std::get_if<bool>(&held_)) return *flag ? "True" : "False";

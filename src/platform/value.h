@@ -29,8 +29,12 @@ class Value {
   /// The text as a text box or a message would take it: Empty is "", a number its general form, a
   /// flag "True" or "False". Null raises 94.
   std::string text(const Locale& locale) const;
-  /// As text(), but Null counts as the empty text, as it does where texts are joined.
-  std::string joined(const Locale& locale) const;
+  /// As text(), but Null counts as the empty text, as it does where texts are joined. A value that
+  /// is about to go gives its text away.
+  /// @{
+  std::string joined(const Locale& locale) const&;
+  std::string joined(const Locale& locale) &&;
+  /// @}
   /// The number: Empty is 0, a flag -1 or 0. Raises 13 or 6 for a text that is none, 94 for Null.
   double number(const Locale& locale) const;
 
