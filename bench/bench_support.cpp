@@ -110,6 +110,24 @@ void Bare::settle() {
   require(code == SQLITE_OK, "the checkpoint");
 }
 
+void readAllBare(const std::string& path) {
+  const auto& columns = logbookTables().front().columns;
+  Bare file(path);
+  sqlite3_stmt* walk = file.prepare("SELECT rowid, * FROM Logbuch ORDER BY rowid");
+  while (sqlite3_step(walk) == SQLITE_ROW) {
+    for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
+      if (columns[static_cast<std::size_t>(column)].kind == Kind::Flag) {
+        benchmark::DoNotOptimize(sqlite3_column_int(walk, column + 1));
+        continue;
+      }
+      const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(walk, column + 1));
+      const auto size = static_cast<std::size_t>(sqlite3_column_bytes(walk, column + 1));
+      benchmark::DoNotOptimize(std::string(text, size));
+    }
+  }
+  sqlite3_finalize(walk);
+}
+
 void compare(const std::string& name, int times, void (*ours)(benchmark::State&),
              void (*bare)(benchmark::State&)) {
   for (const auto& [side, run] : {std::pair{kOurs, ours}, std::pair{kBare, bare}})

@@ -48,6 +48,10 @@ class Bare {
   sqlite3* handle_ = nullptr;
 };
 
+/// A pass over all rows and columns by calls of the engine itself. Takes every text as a string of
+/// its own, as whoever works with it must.
+void readAllBare(const std::string& path);
+
 /// Measures a pair in turns: `ours` against `bare`, which does the same by calls of the engine
 /// itself, both `times` times a round. Names the pair in the table of medians and ratios that
 /// every bench prints at its end.

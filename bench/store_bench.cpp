@@ -50,25 +50,8 @@ void pass(benchmark::State& state) {
   }
 }
 
-/// Takes every text as a string of its own, as whoever works with it must.
 void passBare(benchmark::State& state) {
-  const auto& columns = logbookTables().front().columns;
-  for (auto _ : state) {
-    Bare file(logbookPath());
-    sqlite3_stmt* walk = file.prepare("SELECT rowid, * FROM Logbuch ORDER BY rowid");
-    while (sqlite3_step(walk) == SQLITE_ROW) {
-      for (int column = 0; column < kColumns; ++column) {
-        if (columns[static_cast<std::size_t>(column)].kind == Kind::Flag) {
-          benchmark::DoNotOptimize(sqlite3_column_int(walk, column + 1));
-          continue;
-        }
-        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(walk, column + 1));
-        const auto size = static_cast<std::size_t>(sqlite3_column_bytes(walk, column + 1));
-        benchmark::DoNotOptimize(std::string(text, size));
-      }
-    }
-    sqlite3_finalize(walk);
-  }
+  for (auto _ : state) readAllBare(logbookPath());
 }
 
 std::string appendedText(std::string_view column) {
