@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-
 #include "platform/controls.h"
 #include "platform/form.h"
 
