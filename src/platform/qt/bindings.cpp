@@ -24,6 +24,7 @@
 #include "platform/qt/navigator_bar.h"
 #include "platform/qt/picture_view.h"
 #include "platform/qt/spin_arrows.h"
+#include "platform/qt/table_binding.h"
 #include "platform/text.h"
 
 namespace nautrel {
@@ -437,6 +438,7 @@ std::unique_ptr<Binding> bind(Control& control, QWidget& widget) {
          tryBind<CheckBinding, CheckBox, QCheckBox>(control, widget, made) ||
          tryBind<OptionBinding, OptionButton, QRadioButton>(control, widget, made) ||
          tryBind<ListBinding, ListBox, ListView>(control, widget, made) ||
+         tryBind<TableBinding, Grid, TableView>(control, widget, made) ||
          tryBind<ComboBinding, ComboBox, QComboBox>(control, widget, made) ||
          tryBind<TabBinding, TabStrip, QTabWidget>(control, widget, made) ||
          tryBind<SpinBinding, SpinButton, SpinArrows>(control, widget, made) ||

@@ -18,7 +18,7 @@ class SubWindow : public QMdiSubWindow {
   SubWindow(Form& form, bool sizable) : form_(&form) {
     setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
-                   (sizable ? Qt::WindowMaximizeButtonHint : Qt::WindowType(0)));
+                   (sizable ? Qt::WindowMinMaxButtonsHint : Qt::WindowType(0)));
     setAttribute(Qt::WA_DeleteOnClose, false);
     setWindowIcon(namedIcon("nautrel"));
     connect(this, &QMdiSubWindow::windowStateChanged, this,
