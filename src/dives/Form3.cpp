@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "dives/jump.h"
 #include "platform/errors.h"
 #include "platform/text.h"
 #include "search/return_to_search.h"
@@ -137,22 +138,13 @@ void Form3::List1_Click() {
 }
 
 void Form3::Command1_Click() {
-  auto& shared = app_.Modul1();
-  shared.NummernLesen();
-  const auto answer = desktop().InputBox("Please enter a dive number between " +
-                                             shared.ErsteNummer.joined(locale()) + " and " +
-                                             shared.LetzteNummer.joined(locale()) + "!",
-                                         "Jump to dive-#");
+  const auto answer = askForDive(app_);
   try {
     auto& rows = Data1.Recordset();
-    if (answer == shared.LetzteNummer.joined(locale())) {
+    if (isLastDive(app_, answer))
       rows.MoveLast();
-      return selectByCount();
-    }
-    const double target = number(answer);
-    if (target <= shared.LetzteNummer.number(locale()) &&
-        target >= shared.ErsteNummer.number(locale()))
-      rows.Move(toInt32(target - rows.Fields(Feld::Nr).number(locale())));
+    else
+      jumpToDive(app_, rows, answer);
     selectByCount();
   } catch (const RunTimeError&) {
   }

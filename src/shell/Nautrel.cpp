@@ -4,8 +4,12 @@
 
 #include "diver/Form15.h"
 #include "diver/Form7.h"
+#include "dives/Form13.h"
 #include "dives/Form2.h"
 #include "dives/Form3.h"
+#include "dives/Form4.h"
+#include "dives/Form5.h"
+#include "dives/Form8.h"
 #include "evaluation/Form10.h"
 #include "evaluation/Form11.h"
 #include "evaluation/Form6.h"
@@ -46,11 +50,20 @@ class Form2& Nautrel::Form2() {
 class Form3& Nautrel::Form3() {
   return window<class Form3>(3);
 }
+class Form4& Nautrel::Form4() {
+  return window<class Form4>(4);
+}
+class Form5& Nautrel::Form5() {
+  return window<class Form5>(5);
+}
 class Form6& Nautrel::Form6() {
   return window<class Form6>(6);
 }
 class Form7& Nautrel::Form7() {
   return window<class Form7>(7);
+}
+class Form8& Nautrel::Form8() {
+  return window<class Form8>(8);
 }
 class Form9& Nautrel::Form9() {
   return window<class Form9>(9);
@@ -63,6 +76,9 @@ class Form11& Nautrel::Form11() {
 }
 class Form12& Nautrel::Form12() {
   return window<class Form12>(12);
+}
+class Form13& Nautrel::Form13() {
+  return window<class Form13>(13);
 }
 class Form14& Nautrel::Form14() {
   return window<class Form14>(14);
@@ -89,10 +105,16 @@ void Nautrel::show(int number) {
       return Form2().Show();
     case 3:
       return Form3().Show();
+    case 4:
+      return Form4().Show();
+    case 5:
+      return Form5().Show();
     case 6:
       return Form6().Show();
     case 7:
       return Form7().Show();
+    case 8:
+      return Form8().Show();
     case 9:
       return Form9().Show();
     case 10:
@@ -101,6 +123,8 @@ void Nautrel::show(int number) {
       return Form11().Show();
     case 12:
       return Form12().Show();
+    case 13:
+      return Form13().Show();
     case 14:
       return Form14().Show();
     case 15:

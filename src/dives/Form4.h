@@ -1,0 +1,42 @@
+#pragma once
+
+#include "dives/DiveEntryForm.h"
+#include "store/data_control.h"
+
+namespace nautrel {
+
+/// "Edit dives": shows one dive in the entry boxes and writes changes back to its row. A change
+/// that is not saved is lost at the next move, without a question.
+///
+/// Another window opens it on a dive from outside: Show(), then Data1.Recordset().Move(target -
+/// Fields(0)).
+class Form4 : public DiveEntryForm {
+ public:
+  using App = Nautrel;
+  explicit Form4(Nautrel& app);
+
+  void Form_Load() override;
+  void Form_Unload() override;
+  void Data1_Reposition();
+  void Command1_Click();
+  void Command2_Click();
+  void Command3_Click();
+  void Command4_Click();
+  void Leeren();
+  /// Writes the boxes and every flag, on or off, to the current row; never its number.
+  void Speichern();
+
+  Image Image5{*this, "Image5", false};
+  DataControl Data1;
+  Button Command2{*this, "Command2", "&OK"};
+  Button Command3{*this, "Command3", "&Close"};
+  Button Command4{*this, "Command4", "Jump to dive-#"};
+
+ private:
+  void selectTextOnEntry();
+  void showRow();
+  /// Whether the required boxes are filled; if not, the user has been told.
+  bool complete();
+};
+
+}  // namespace nautrel

@@ -1,0 +1,260 @@
+#include "dives/Form5.h"
+
+#include "support/logbook.h"
+
+namespace nautrel {
+namespace {
+
+using Texts = std::vector<std::string>;
+using Messages = std::vector<Shown>;
+
+constexpr const char* kFirst = "First dive-# is not valid";
+constexpr const char* kLast = "Last dive-# is not valid";
+constexpr const char* kOrder = "First dive-# must be lower than last dive-#";
+
+class DeleteDive : public LogbookTest {
+ protected:
+  Form5& open() {
+    start();
+    desktop->messages();
+    click(app->MDIForm1().Menü2c);
+    return app->Form5();
+  }
+  static void goTo(Form5& form, int rows) { form.Data1.Recordset().Move(rows); }
+  static void enterRange(Form5& form, const std::string& first, const std::string& last) {
+    choose(form.SSTab1, 1);
+    clear(form.Text6);
+    type(form.Text6, first);
+    clear(form.Text7);
+    type(form.Text7, last);
+  }
+};
+
+TEST_F(DeleteDive, ShowsTheDiveInLockedBoxes) {
+  auto dive = someDive(7);
+  dive["Buddy"] = "Anna";
+  dive["Platz"] = Value::null();
+  add(dive);
+  auto& form = open();
+  type(form.Text2, "x");
+  EXPECT_EQ((Texts{form.caption(), form.Text1.text(), form.Text2.text(), form.Text3.text(),
+                   form.Text4.text(), form.Text5.text(), form.Text8.text()}),
+            (Texts{"Delete dive", "7", "Land 7", "Ort 7", "", "05.03.2001", "Anna"}));
+}
+
+TEST_F(DeleteDive, TheOthersMoveUpAndTheWindowStandsOnTheLastDive) {
+  addDives(1, 7);
+  auto& form = open();
+  goTo(form, 2);
+  desktop->answer(kYes);
+  click(form.Command1);
+  EXPECT_EQ(desktop->messages(),
+            (Messages{{"Delete this dive?", 276, "Dive number 3 delete"}, {"Dive deleted"}}));
+  EXPECT_EQ(column("Nr"), (Texts{"1", "2", "3", "4", "5", "6"}));
+  EXPECT_EQ(column("Ort"), (Texts{"Ort 1", "Ort 2", "Ort 4", "Ort 5", "Ort 6", "Ort 7"}));
+  EXPECT_EQ(form.Text3.text(), "Ort 7");
+  EXPECT_EQ(status(), "<Logbuch.mdb> Dives Logged: 6 (1 to 6)");
+}
+
+TEST_F(DeleteDive, NoDeletesNothing) {
+  addDives(1, 3);
+  auto& form = open();
+  desktop->answer(kNo);
+  click(form.Command1);
+  EXPECT_EQ(desktop->texts(), (Texts{"Delete this dive?", "Aborted"}));
+  enterRange(form, "1", "3");
+  desktop->answer(kNo);
+  click(form.Command4);
+  EXPECT_EQ(desktop->texts(), (Texts{"Dive number 1 to 3 really delete?", "Aborted"}));
+  EXPECT_EQ(column("Nr"), (Texts{"1", "2", "3"}));
+}
+
+TEST_F(DeleteDive, AStartNumberIsGivenUp) {
+  addDives(11, 20);
+  auto& form = open();
+  desktop->answer(kYes);
+  click(form.Command1);
+  EXPECT_EQ(column("Nr"), (Texts{"1", "2", "3", "4", "5", "6", "7", "8", "9"}));
+}
+
+// The window still holds the number that its row had before the others moved up, so that a jump
+// counts from there and the question names it.
+TEST_F(DeleteDive, AfterADeletionTheRowOnShowCountsWithItsNumberOfBefore) {
+  addDives(1, 7);
+  auto& form = open();
+  goTo(form, 2);
+  desktop->answer(kYes);
+  click(form.Command1);
+  desktop->messages();
+  EXPECT_EQ(form.Text1.text(), "7");
+
+  desktop->answer(kNo);
+  click(form.Command1);
+  EXPECT_EQ(desktop->messages().front(), (Shown{"Delete this dive?", 276, "Dive number 7 delete"}));
+
+  desktop->answerInput("3");
+  click(form.Command2);
+  EXPECT_EQ(desktop->inputPrompts.back(),
+            "Jump to dive-#: Please enter a dive number between 1 and 6!");
+  EXPECT_EQ(form.Text1.text(), "2");
+
+  desktop->answerInput("3");
+  click(form.Command2);
+  EXPECT_EQ(form.Text1.text(), "3");
+  EXPECT_EQ(form.Text3.text(), "Ort 4");
+}
+
+struct JumpCase {
+  const char* answer;
+  const char* arrives;
+};
+
+class DeleteJump : public DeleteDive, public ::testing::WithParamInterface<JumpCase> {};
+
+TEST_P(DeleteJump, LeavesTheFocusAlone) {
+  addDives(11, 15);
+  auto& form = open();
+  goTo(form, 2);
+  desktop->answerInput(GetParam().answer);
+  click(form.Command2);
+  EXPECT_EQ(form.Text1.text(), GetParam().arrives);
+  EXPECT_EQ(form.activeControl(), &form.Command2);
+  EXPECT_EQ(desktop->texts(), Texts{});
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, DeleteJump,
+                         ::testing::Values(JumpCase{"11", "11"}, JumpCase{"15", "15"},
+                                           JumpCase{"10", "13"}, JumpCase{"16", "13"},
+                                           JumpCase{"x", "13"}, JumpCase{"", "13"}));
+
+TEST_F(DeleteDive, TheLastDiveTakesTheWindowAndTheCommandsWithIt) {
+  addDives(4, 4);
+  auto& form = open();
+  desktop->answer(kYes);
+  click(form.Command1);
+  EXPECT_EQ(desktop->texts(), (Texts{"Delete this dive?", "Dive deleted"}));
+  EXPECT_FALSE(app->loaded(5));
+  EXPECT_FALSE(app->MDIForm1().Menü2c.enabled());
+  EXPECT_FALSE(app->MDIForm1().Toolbar1.buttonEnabled(4));
+  EXPECT_EQ(status(), "<Logbuch.mdb> Dives Logged: 0");
+}
+
+struct RangeCase {
+  int begins;
+  int ends;
+  const char* first;
+  const char* last;
+  Texts messages;  // none: the question comes
+};
+
+class Range : public DeleteDive, public ::testing::WithParamInterface<RangeCase> {};
+
+TEST_P(Range, IsTestedToTheEnd) {
+  const auto& [begins, ends, first, last, messages] = GetParam();
+  addDives(begins, ends);
+  auto& form = open();
+  enterRange(form, first, last);
+  if (messages.empty()) desktop->answer(kNo);
+  click(form.Command4);
+  auto shown = desktop->texts();
+  if (messages.empty()) {
+    EXPECT_EQ(shown.back(), "Aborted");
+    EXPECT_EQ(form.Text9.text(), "");
+  } else {
+    EXPECT_EQ(shown, messages);
+    EXPECT_NE(form.Text9.text(), "");
+  }
+  EXPECT_EQ(column("Nr").size(), static_cast<std::size_t>(ends - begins + 1));
+}
+
+INSTANTIATE_TEST_SUITE_P(Bounds, Range,
+                         ::testing::Values(RangeCase{1, 7, "4", "4", {}},
+                                           RangeCase{1, 7, "1", "7", {}},
+                                           RangeCase{1, 7, "5", "4", {kOrder}},
+                                           RangeCase{1, 7, "", "4", {kFirst, kOrder}},
+                                           RangeCase{1, 7, "", "", {kFirst, kLast, kOrder}},
+                                           RangeCase{1, 7, "8", "9", {kFirst, kLast}},
+                                           RangeCase{1, 7, "8", "7", {kFirst, kOrder}},
+                                           RangeCase{5, 12, "10", "9", {kFirst, kOrder}},
+                                           RangeCase{5, 12, "6", "10", {kLast}},
+                                           RangeCase{5, 12, "5", "9", {}}));
+
+TEST_F(DeleteDive, ARangeGoesAndTheRestMovesUp) {
+  addDives(1, 9);
+  auto& form = open();
+  enterRange(form, "3", "7");
+  EXPECT_EQ(form.Label10.caption(), "max from dive-# 1 to # 9");
+  desktop->answer(kYes);
+  click(form.Command4);
+  EXPECT_EQ(
+      desktop->messages(),
+      (Messages{{"Dive number 3 to 7 really delete?", 276, "Delete3 to 7"}, {"Dives deleted"}}));
+  EXPECT_EQ(rows("Logbuch", {"Nr", "Ort"}),
+            (std::vector<Texts>{{"1", "Ort 1"}, {"2", "Ort 2"}, {"3", "Ort 8"}, {"4", "Ort 9"}}));
+  EXPECT_EQ(form.Label10.caption(), "max from dive-# 1 to # 4");
+  EXPECT_EQ((Texts{form.Text6.text(), form.Text7.text(), form.Text3.text()}),
+            (Texts{"3", "7", "Ort 9"}));
+  EXPECT_EQ(status(), "<Logbuch.mdb> Dives Logged: 4 (1 to 4)");
+
+  enterRange(form, "1", "4");
+  desktop->answer(kYes);
+  click(form.Command4);
+  EXPECT_FALSE(app->loaded(5));
+  EXPECT_FALSE(app->MDIForm1().Menü3a.enabled());
+}
+
+TEST_F(DeleteDive, AMissingNumberEndsTheProgramAndWhatWasDeletedStaysDeleted) {
+  for (const int number : {1, 2, 4, 5}) add(someDive(number));
+  auto& form = open();
+  enterRange(form, "2", "3");
+  desktop->answer(kYes);
+  click(form.Command4);
+  ASSERT_TRUE(desktop->failure());
+  EXPECT_EQ(desktop->failure()->number, NoCurrentRecord);
+  EXPECT_EQ(column("Nr"), Texts{"1"});
+}
+
+TEST_F(DeleteDive, TheBoxesTakeWholeNumbersAndTheSpinButtonsKeepToTheLogbook) {
+  addDives(5, 7);
+  auto& form = open();
+  enterRange(form, "0", "x");
+  EXPECT_EQ((Texts{form.Text6.text(), form.Text7.text()}), (Texts{"", ""}));
+  paste(form.Text6, "007");
+  EXPECT_EQ(form.Text6.text(), "7");
+  clear(form.Text6);
+  spinDown(form.SpinButton1);
+  EXPECT_EQ(form.Text6.text(), "5");
+  spinUp(form.SpinButton1);
+  EXPECT_EQ(form.Text6.text(), "6");
+  for (int i = 0; i < 4; ++i) spinUp(form.SpinButton2);
+  EXPECT_EQ(form.Text7.text(), "7");
+}
+
+TEST_F(DeleteDive, EnterAndEscCloseFromEitherPage) {
+  addDives(1, 2);
+  for (const auto key : {Key::Enter, Key::Escape})
+    for (const int page : {0, 1}) {
+      if (!app->loaded(0)) start();
+      click(app->MDIForm1().Menü2c);
+      auto& form = app->Form5();
+      choose(form.SSTab1, page);
+      focus(page == 0 ? static_cast<Control&>(form.Text2) : form.Text6);
+      press(form, key);
+      EXPECT_FALSE(app->loaded(5));
+    }
+  EXPECT_EQ(column("Nr").size(), 2U);
+}
+
+TEST_F(DeleteDive, TheMarksOutOfReachAreOnAndWarnOfTheGap) {
+  addDives(1, 3);
+  auto& form = open();
+  EXPECT_FALSE(form.Check1.shows() || form.Check2.shows());
+  EXPECT_TRUE(form.Check1.on() && form.Check2.on());
+  form.Check2.setOn(false);
+  ASSERT_EQ(desktop->texts().size(), 1U);
+  form.Check2.setOn(true);
+  EXPECT_EQ(desktop->texts(), Texts{});
+}
+
+}  // namespace
+}  // namespace nautrel

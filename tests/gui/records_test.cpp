@@ -1,0 +1,122 @@
+#include <QAbstractButton>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMdiSubWindow>
+#include <QTabWidget>
+
+#include "dives/Form13.h"
+#include "dives/Form4.h"
+#include "dives/Form5.h"
+#include "gui/gui_test.h"
+#include "platform/qt/navigator_bar.h"
+#include "platform/qt/table_binding.h"
+
+namespace nautrel {
+namespace {
+
+class RecordWindows : public GuiTest {
+ protected:
+  Form13& table() {
+    start();
+    click(app->MDIForm1().Menü3d);
+    settle();
+    return app->Form13();
+  }
+};
+
+TEST_F(RecordWindows, EveryButtonAndTextHasTheRoomItNeeds) {
+  addDives(1, 3);
+  start();
+  for (const int number : {2, 3, 4, 5, 8}) {
+    app->handle([&] { app->show(number); });
+    settle();
+    auto& form = *app->ifLoaded(number);
+    auto* pages = window(form)->findChild<QTabWidget*>();
+    for (int page = 0; page < (pages == nullptr ? 1 : pages->count()); ++page) {
+      if (pages != nullptr) pages->setCurrentIndex(page);
+      settle();
+      for (auto* part : window(form)->findChildren<QWidget*>()) {
+        const bool written = qobject_cast<QAbstractButton*>(part) != nullptr ||
+                             qobject_cast<QLabel*>(part) != nullptr ||
+                             dynamic_cast<NavigatorBar*>(part) != nullptr;
+        if (!written || part->objectName().isEmpty() || !part->isVisible()) continue;
+        EXPECT_GE(part->width(), part->minimumSizeHint().width())
+            << form.name() << ": " << fromQt(part->objectName());
+      }
+    }
+    app->handle([&] { app->unload(number); });
+  }
+}
+
+TEST_F(RecordWindows, TheNavigatorLeavesTheFocusToTheBoxAndTheWindowSelectsItsText) {
+  addDives(1, 3);
+  start();
+  click(app->MDIForm1().Menü2b);
+  settle();
+  auto& form = app->Form4();
+  expectFocus(form.Text2);
+  EXPECT_EQ(widget<QLineEdit>(form.Text2).selectedText(), "Land 1");
+  keys("X");
+  for (auto* arrow : widget(form.Data1).findChildren<QAbstractButton*>())
+    if (arrow->accessibleName() == "Next dive") mouse(*arrow);
+  expectFocus(form.Text2);
+  EXPECT_EQ(widget<QLineEdit>(form.Text2).text(), "Land 2");
+  keys("Y");
+  key(Qt::Key_Return);
+  EXPECT_EQ(column("Land"), (std::vector<std::string>{"Land 1", "Y", "Land 3"}));
+  EXPECT_EQ(fromQt(window(form)->windowTitle()), "Edit dives - Number 3");
+}
+
+TEST_F(RecordWindows, TheTableReadsOnlyTheRowsInSight) {
+  addDives(1, 400);
+  auto dive = someDive(401);
+  dive["Lang"] = "one\r\nline";
+  dive["Boot"] = true;
+  add(dive);
+  auto& form = table();
+  auto& view = widget<TableView>(form.MSFlexGrid1);
+  ASSERT_EQ(view.model()->rowCount(), 401);
+  EXPECT_EQ(view.model()->columnCount(), 30);
+  int read = 0;
+  for (int row = 0; row < 401; ++row) read += form.MSFlexGrid1.isRead(row) ? 1 : 0;
+  EXPECT_LT(read, 100);
+  view.scrollToBottom();
+  settle();
+  EXPECT_TRUE(form.MSFlexGrid1.isRead(400));
+  const auto shown = [&](int row, int column) {
+    return fromQt(view.model()->index(row, column).data().toString());
+  };
+  EXPECT_EQ(shown(400, 10), "one line");
+  EXPECT_EQ(shown(400, 14), "True");
+  EXPECT_EQ(fromQt(view.model()->headerData(29, Qt::Horizontal).toString()), "Grafik");
+}
+
+TEST_F(RecordWindows, TheTableIsTheOneThatCanBeSizedAndItsGridFollows) {
+  addDives(1, 3);
+  auto& form = table();
+  auto* frame = qobject_cast<QMdiSubWindow*>(window(form));
+  ASSERT_NE(frame, nullptr);
+  frame->resize(500, 300);
+  settle();
+  EXPECT_EQ(form.MSFlexGrid1.Width(), 500 * 15 - 140);
+  EXPECT_EQ(form.MSFlexGrid1.Height(), 300 * 15 - 400);
+  const auto small = widget(form.MSFlexGrid1).size();
+  frame->showMaximized();
+  settle();
+  EXPECT_GT(widget(form.MSFlexGrid1).width(), small.width());
+  frame->showMinimized();
+  settle();
+  frame->showNormal();
+  settle();
+  EXPECT_EQ(widget(form.MSFlexGrid1).size(), small);
+
+  click(app->MDIForm1().Menü2c);
+  settle();
+  auto* fixed = window(app->Form5());
+  const auto size = fixed->size();
+  fixed->resize(size * 2);
+  EXPECT_EQ(fixed->size(), size);
+}
+
+}  // namespace
+}  // namespace nautrel
