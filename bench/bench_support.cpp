@@ -5,6 +5,7 @@
 #include <random>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "store/contract.h"
 #include "store/delivered.h"
@@ -102,6 +103,24 @@ sqlite3_stmt* Bare::prepare(const char* sql) {
   sqlite3_stmt* statement = nullptr;
   require(sqlite3_prepare_v2(handle_, sql, -1, &statement, nullptr) == SQLITE_OK, sql);
   return statement;
+}
+
+// The rows first, then one change after the other: a walk that is open meanwhile would keep the log
+// from being emptied.
+void Bare::renumber(int number) {
+  std::vector<sqlite3_int64> rows;
+  sqlite3_stmt* walk = prepare("SELECT rowid FROM Logbuch ORDER BY rowid");
+  while (sqlite3_step(walk) == SQLITE_ROW) rows.push_back(sqlite3_column_int64(walk, 0));
+  sqlite3_finalize(walk);
+
+  sqlite3_stmt* update = prepare("UPDATE Logbuch SET Nr = ? WHERE rowid = ?");
+  for (const auto row : rows) {
+    sqlite3_bind_text(update, 1, std::to_string(number++).c_str(), -1, SQLITE_TRANSIENT);
+    sqlite3_bind_int64(update, 2, row);
+    sqlite3_step(update);
+    sqlite3_reset(update);
+  }
+  sqlite3_finalize(update);
 }
 
 void Bare::settle() {

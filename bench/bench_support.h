@@ -41,6 +41,8 @@ class Bare {
 
   void run(const char* sql);
   sqlite3_stmt* prepare(const char* sql);
+  /// Gives the dives numbers from `number` on, in stored order, one change for each.
+  void renumber(int number);
   /// Moves the log into the file, synced.
   void settle();
 

@@ -6,13 +6,15 @@
 
 namespace nautrel::bench {
 
-/// A desktop without anybody at it: every question is answered with OK, every dialog cancelled.
+/// A desktop without anybody at it: every question is answered with Yes, every dialog cancelled.
 class QuietDesktop : public Desktop {
  public:
   explicit QuietDesktop(std::string folder) : folder_(std::move(folder)) {}
 
  protected:
-  int showMessage(const std::string&, int, const std::string&) override { return kOk; }
+  int showMessage(const std::string&, int style, const std::string&) override {
+    return style == 0 ? kOk : kYes;
+  }
   std::string askText(const std::string&, const std::string&) override { return {}; }
   std::optional<std::string> askFileToOpen(const DialogRequest&) override { return {}; }
   std::optional<std::string> askFileToSave(const DialogRequest&) override { return {}; }

@@ -110,28 +110,10 @@ void renumberAll(benchmark::State& state) {
   }
 }
 
-/// The rows first, then one change after the other: a walk that is open meanwhile would keep the
-/// log from being emptied.
-void updateNumbers(Bare& file, int number) {
-  std::vector<sqlite3_int64> rows;
-  sqlite3_stmt* walk = file.prepare("SELECT rowid FROM Logbuch ORDER BY rowid");
-  while (sqlite3_step(walk) == SQLITE_ROW) rows.push_back(sqlite3_column_int64(walk, 0));
-  sqlite3_finalize(walk);
-
-  sqlite3_stmt* update = file.prepare("UPDATE Logbuch SET Nr = ? WHERE rowid = ?");
-  for (const auto row : rows) {
-    sqlite3_bind_text(update, 1, std::to_string(number++).c_str(), -1, SQLITE_TRANSIENT);
-    sqlite3_bind_int64(update, 2, row);
-    sqlite3_step(update);
-    sqlite3_reset(update);
-  }
-  sqlite3_finalize(update);
-}
-
 void renumberAllBare(benchmark::State& state) {
   for (auto _ : state) {
     Bare file(logbookPath());
-    updateNumbers(file, otherStart());
+    file.renumber(otherStart());
     file.settle();
   }
 }
@@ -156,7 +138,7 @@ void deleteOneBare(benchmark::State& state) {
   for (auto _ : state) {
     Bare file(logbookPath());
     file.run("DELETE FROM Logbuch WHERE rowid = (SELECT min(rowid) FROM Logbuch)");
-    updateNumbers(file, 1);
+    file.renumber(1);
     file.settle();
   }
 }

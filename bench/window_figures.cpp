@@ -118,6 +118,8 @@ void measure(const Logbook& logbook) {
         once([&] { press(Navigator::Arrow::Last); }), "ms", 150);
   print("memory with the photo", residentMegabytes(), "MB", 160);
 
+  print("Logbook Table opens", once([&] { app.MDIForm1().Menü3d.userClick(); }), "ms", 150);
+
   app.MDIForm1().Menü2a.userClick();
   settleScreen();
   for (auto* box : {&app.Form2().Text2, &app.Form2().Text9, &app.Form2().Text11}) {

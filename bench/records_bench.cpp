@@ -1,0 +1,103 @@
+#include <QApplication>
+
+#include "bench_support.h"
+#include "dives/Form5.h"
+#include "dives/Form8.h"
+#include "platform/qt/qt_looks.h"
+#include "quiet_desktop.h"
+#include "shell/Form1.h"
+#include "shell/MDIForm1.h"
+#include "shell/Nautrel.h"
+
+// The windows that work on the whole logbook, with their look and the progress bar, against the
+// same changes by calls of the engine itself; the ratio is to stay under 1.3.
+
+namespace nautrel::bench {
+namespace {
+
+// One less than full, so that the logbook may begin at 1 and at 2.
+constexpr int kDives = kFullLogbook - 1;
+
+const Logbook& logbook() {
+  static const Logbook made(kDives);
+  return made;
+}
+
+/// The program as the diver has it before him, but for the screen.
+class Running {
+ public:
+  Running() : desktop(logbook().folder().string()), app(desktop), looks(app) {
+    app.setLooks(&looks);
+    app.start();
+    app.Form1().Timer1.userFires();
+    QApplication::processEvents();
+  }
+
+ private:
+  static QApplication& screen() {
+    static int count = 1;
+    static char name[] = "bench";
+    static char* names[] = {name, nullptr};
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static QApplication application(count, names);
+    return application;
+  }
+
+  QApplication& screen_ = screen();
+
+ public:
+  QuietDesktop desktop;
+  Nautrel app;
+  QtLooks looks;
+};
+
+int otherStart() {
+  static int start = 1;
+  return start = 3 - start;
+}
+
+void sortLogbook(benchmark::State& state) {
+  Running running;
+  running.app.MDIForm1().Menü1d.userClick();
+  auto& form = running.app.Form8();
+  for (auto _ : state) {
+    form.Text1.setText(std::to_string(otherStart()));
+    form.Command1.userClick();
+  }
+}
+
+void sortBare(benchmark::State& state) {
+  for (auto _ : state) {
+    Bare file(logbook().path());
+    file.renumber(otherStart());
+    file.settle();
+  }
+}
+
+void deleteFirst(benchmark::State& state) {
+  Running running;
+  running.app.MDIForm1().Menü2c.userClick();
+  auto& form = running.app.Form5();
+  for (auto _ : state) {
+    form.Data1.userPress(Navigator::Arrow::First);
+    form.Command1.userClick();
+  }
+}
+
+void deleteFirstBare(benchmark::State& state) {
+  for (auto _ : state) {
+    Bare file(logbook().path());
+    file.run("DELETE FROM Logbuch WHERE rowid = (SELECT min(rowid) FROM Logbuch)");
+    file.renumber(1);
+    file.settle();
+  }
+}
+
+const bool kRegistered = [] {
+  compare("Sort logbook, all of it", 1, sortLogbook, sortBare);
+  compare("Delete dive, all of it", 1, deleteFirst, deleteFirstBare);
+  return true;
+}();
+
+}  // namespace
+}  // namespace nautrel::bench
