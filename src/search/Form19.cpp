@@ -1,6 +1,8 @@
 #include "search/Form19.h"
 
 #include "dives/Form3.h"
+#include "dives/Form4.h"
+#include "dives/Form5.h"
 #include "shell/Modul1.h"
 #include "shell/Nautrel.h"
 #include "store/contract.h"
@@ -27,8 +29,15 @@ void Form19::Anzeigen() {
   jump(app_.Form3().Data1.Recordset());
 }
 
-void Form19::Bearbeiten() {}
-void Form19::Löschen() {}
+// The rules of the row on show take the focus to the window of the dive.
+void Form19::Bearbeiten() {
+  jump(app_.Form4().Data1.Recordset());
+  SetFocus();
+}
+
+void Form19::Löschen() {
+  jump(app_.Form5().Data1.Recordset());
+}
 
 void Form19::jump(Recordset& rows) {
   if (List1.text() == app_.Modul1().LetzteNummer.joined(locale())) return rows.MoveLast();

@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "dives/Form3.h"
+#include "dives/Form4.h"
+#include "dives/Form5.h"
 #include "platform/errors.h"
 #include "search/Form19.h"
 #include "shell/MDIForm1.h"
@@ -150,8 +152,12 @@ void SearchForm::openHit() {
 void SearchForm::Anzeigen() {
   openIn(&Nautrel::Form3, "anzeigen", true);
 }
-void SearchForm::Bearbeiten() {}
-void SearchForm::Löschen() {}
+void SearchForm::Bearbeiten() {
+  openIn(&Nautrel::Form4, "bearbeiten", false);
+}
+void SearchForm::Löschen() {
+  openIn(&Nautrel::Form5, "löschen", false);
+}
 
 template <class RecordForm>
 void SearchForm::openIn(RecordForm& (Nautrel::*window)(), const char* mode, bool listFollows) {

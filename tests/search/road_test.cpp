@@ -1,0 +1,201 @@
+#include "dives/Form3.h"
+#include "dives/Form4.h"
+#include "dives/Form5.h"
+#include "platform/errors.h"
+#include "search/search_test.h"
+
+namespace nautrel {
+namespace {
+
+constexpr int kSearches[] = {12, 14, 20};
+
+struct Record {
+  int window;
+  OptionButton SearchForm::*option;
+  const char* caption;
+  const char* mode;
+};
+constexpr Record kRecords[] = {{3, &SearchForm::Option1, "View", "anzeigen"},
+                               {4, &SearchForm::Option2, "Edit", "bearbeiten"},
+                               {5, &SearchForm::Option3, "Delete", "löschen"}};
+
+class RoadTest : public SearchTest {
+ protected:
+  /// Eight dives, of which 2, 4, 6 and 8 are hits of each search.
+  void startWithHits() {
+    for (int number = 1; number <= 8; ++number) {
+      auto dive = someDive(number);
+      if (number % 2 == 0) dive["Land"] = "Malta";
+      dive["Zeit"] = number % 2 == 0 ? "33" : "44";
+      add(dive);
+    }
+    start();
+  }
+  SearchForm& found(int window) {
+    if (window == 14) {
+      auto& form = numbers();
+      EXPECT_EQ(search(form, "33"), kHits);
+      return form;
+    }
+    auto& form = window == 12 ? static_cast<TermSearchForm&>(words()) : everything();
+    EXPECT_EQ(search(form, "malta"), kHits);
+    return form;
+  }
+  Form& recordForm(int window) {
+    if (window == 3) return app->Form3();
+    if (window == 4) return app->Form4();
+    return app->Form5();
+  }
+  Button& back(int window) {
+    return *dynamic_cast<Button*>(recordForm(window).control("Command3"));
+  }
+  std::string shownDive(int window) {
+    return dynamic_cast<TextBox*>(recordForm(window).control("Text1"))->text();
+  }
+  bool flag(int search) const {
+    const auto& shared = app->Modul1();
+    return search == 12   ? shared.VonWortsuche
+           : search == 14 ? shared.VonZahlensuche
+                          : shared.VonVollsuche;
+  }
+
+  const Texts kHits{"2", "4", "6", "8"};
+};
+
+class Road : public RoadTest, public ::testing::WithParamInterface<std::tuple<int, Record>> {};
+
+TEST_P(Road, LeadsFromTheHitToTheDiveAndBack) {
+  const auto& [searchWindow, record] = GetParam();
+  startWithHits();
+  auto& search = found(searchWindow);
+  click(search.*record.option);
+  if (record.window != 3) {
+    EXPECT_EQ(search.Command3.caption(), record.caption);
+  }
+  click(search.List1, 1);
+  click(search.Command3);
+
+  EXPECT_EQ(search.windowState(), WindowState::Minimized);
+  EXPECT_TRUE(flag(searchWindow));
+  auto& form = recordForm(record.window);
+  EXPECT_TRUE(form.visible());
+  EXPECT_EQ(shownDive(record.window), "4");
+  EXPECT_EQ(back(record.window).caption(), "&Back");
+
+  auto& list = app->Form19();
+  EXPECT_EQ(app->activeForm(), &list);
+  EXPECT_EQ(list.List1.lines(), kHits);
+  EXPECT_EQ(list.List1.ListIndex(), 1);
+  EXPECT_EQ(list.Text1.text(), record.mode);
+  EXPECT_EQ(list.Width(), Form19::kListWidth + 100);
+  EXPECT_EQ(list.Height(), form.Height());
+  EXPECT_EQ(list.Left(), form.Left() - list.Width());
+  EXPECT_EQ(list.Top(), form.Top());
+
+  for (const int line : {2, 0, 3}) {
+    click(list.List1, line);
+    EXPECT_EQ(shownDive(record.window), kHits[static_cast<std::size_t>(line)]);
+    EXPECT_EQ(app->activeForm(), &list);
+  }
+  if (record.window == 3) {
+    EXPECT_EQ(app->Form3().List1.ListIndex(), 7);
+  }
+
+  click(back(record.window));
+  EXPECT_FALSE(app->loaded(record.window));
+  EXPECT_FALSE(app->loaded(19));
+  EXPECT_EQ(search.windowState(), WindowState::Normal);
+  EXPECT_EQ(search.List1.lines(), kHits);
+  EXPECT_EQ(search.List1.ListIndex(), 1);
+  close(search);
+  EXPECT_FALSE(flag(searchWindow));
+}
+
+INSTANTIATE_TEST_SUITE_P(Nine, Road,
+                         ::testing::Combine(::testing::ValuesIn(kSearches),
+                                            ::testing::ValuesIn(kRecords)));
+
+TEST_F(RoadTest, BeginsWithADoubleClickAndNotWithoutASelectedLine) {
+  startWithHits();
+  auto& search = found(12);
+  click(search.Command3);
+  EXPECT_EQ(search.windowState(), WindowState::Normal);
+  EXPECT_FALSE(app->loaded(3));
+  doubleClick(search.List1, 3);
+  EXPECT_EQ(shownDive(3), "8");
+  EXPECT_EQ(search.Frame2.caption(), "Dive 8");
+}
+
+TEST_F(RoadTest, DoubleClickOnAnEmptyListEndsTheProgram) {
+  startWithHits();
+  words().List1.userDoubleClick();
+  ASSERT_TRUE(desktop->failure());
+  EXPECT_EQ(desktop->failure()->number, TypeMismatch);
+}
+
+TEST_F(RoadTest, TakenTwiceFillsTheListOfFoundDivesTwice) {
+  startWithHits();
+  auto& search = found(20);
+  doubleClick(search.List1, 0);
+  search.userState(WindowState::Normal);
+  doubleClick(search.List1, 2);
+  EXPECT_EQ(shownDive(3), "6");
+  EXPECT_EQ(app->Form19().List1.lines(), (Texts{"2", "4", "6", "8", "2", "4", "6", "8"}));
+}
+
+TEST_F(RoadTest, ClosingTheSearchTakesTheListAwayAndLeavesTheDive) {
+  startWithHits();
+  auto& search = found(14);
+  doubleClick(search.List1, 0);
+  close(search);
+  EXPECT_FALSE(app->loaded(19));
+  EXPECT_TRUE(app->Form3().visible());
+  click(app->Form3().Command3);
+  EXPECT_FALSE(app->loaded(14));
+}
+
+// The row on show has its number of before the deletion as well, so that the first jump from it
+// lands one dive short.
+TEST_F(RoadTest, ListKeepsTheOldNumbersAfterADeletion) {
+  startWithHits();
+  auto& search = found(12);
+  click(search.Option3);
+  doubleClick(search.List1, 1);
+  desktop->answer(kYes);
+  click(app->Form5().Command1);
+  EXPECT_EQ(app->Form19().List1.lines(), kHits);
+  click(app->Form19().List1, 2);
+  EXPECT_EQ(shownDive(5), "5");
+  click(app->Form19().List1, 0);
+  click(app->Form19().List1, 2);
+  EXPECT_EQ(shownDive(5), "6");
+  EXPECT_EQ(app->Form5().Text2.text(), "Land 7");
+  click(app->Form19().List1, 3);
+  ASSERT_TRUE(desktop->failure());
+  EXPECT_EQ(desktop->failure()->number, NoCurrentRecord);
+}
+
+class LastDive : public RoadTest, public ::testing::WithParamInterface<int> {};
+
+TEST_P(LastDive, DeletedFromItsHitClosesTheWordSearchAloneOfTheThree) {
+  startWithHits();
+  auto& search = found(GetParam());
+  click(search.Option3);
+  doubleClick(search.List1, 0);
+  auto& form = app->Form5();
+  choose(form.SSTab1, 1);
+  type(form.Text6, "1");
+  type(form.Text7, "8");
+  desktop->answer(kYes);
+  click(form.Command4);
+  EXPECT_FALSE(app->loaded(5));
+  EXPECT_FALSE(app->loaded(19));
+  EXPECT_EQ(app->loaded(GetParam()), GetParam() != 12);
+  EXPECT_EQ(flag(GetParam()), GetParam() != 12);
+  EXPECT_FALSE(app->MDIForm1().Menü3b.enabled());
+}
+
+INSTANTIATE_TEST_SUITE_P(Searches, LastDive, ::testing::ValuesIn(kSearches));
+
+}  // namespace
+}  // namespace nautrel
