@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "calculators/Form21.h"
 #include "diver/Form15.h"
 #include "diver/Form7.h"
 #include "dives/Form13.h"
@@ -98,6 +99,9 @@ class Form19& Nautrel::Form19() {
 class Form20& Nautrel::Form20() {
   return window<class Form20>(20);
 }
+class Form21& Nautrel::Form21() {
+  return window<class Form21>(21);
+}
 
 void Nautrel::show(int number) {
   switch (number) {
@@ -135,6 +139,8 @@ void Nautrel::show(int number) {
       return Form18().Show();
     case 20:
       return Form20().Show();
+    case 21:
+      return Form21().Show();
     default:
       return;
   }

@@ -27,6 +27,7 @@ class Form16;
 class Form18;
 class Form19;
 class Form20;
+class Form21;
 class MDIForm1;
 class Modul1;
 
@@ -63,6 +64,7 @@ class Nautrel : public Program {
   class Form18& Form18();
   class Form19& Form19();
   class Form20& Form20();
+  class Form21& Form21();
 
   /// Loads and shows the child window of that number.
   void show(int number);
