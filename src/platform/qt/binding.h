@@ -16,6 +16,8 @@ class Binding : public QObject {
   Binding(Control& control, QWidget& widget);
 
   Control& control() const { return control_; }
+  /// Whether the control is seen in this widget, be it its own or one that shows several.
+  virtual bool shows(const Control& control) const { return &control == &control_; }
   QWidget* widget() const { return widget_; }
 
   /// Brings the widget up to date; signals of the widget are blocked meanwhile.

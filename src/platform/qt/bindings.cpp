@@ -23,6 +23,7 @@
 #include "platform/qt/list_binding.h"
 #include "platform/qt/navigator_bar.h"
 #include "platform/qt/picture_view.h"
+#include "platform/qt/scene_view.h"
 #include "platform/qt/spin_arrows.h"
 #include "platform/qt/table_binding.h"
 #include "platform/text.h"
@@ -446,6 +447,7 @@ std::unique_ptr<Binding> bind(Control& control, QWidget& widget) {
          tryBind<ImageBinding, Image, PictureView>(control, widget, made) ||
          tryBind<ShapeBinding, Shape, BubbleView>(control, widget, made) ||
          tryBind<ChartBinding, Chart, ChartWidget>(control, widget, made) ||
+         tryBind<SceneBinding, Drawing, SceneView>(control, widget, made) ||
          tryBind<ProgressBinding, ProgressBar, QProgressBar>(control, widget, made) ||
          tryBind<ColorBinding, PictureBox, ColorSample>(control, widget, made) ||
          tryBind<PictureBoxBinding, PictureBox, QWidget>(control, widget, made) ||

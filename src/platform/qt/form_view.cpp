@@ -55,7 +55,7 @@ void FormView::startTimers() {
 
 Binding* FormView::bindingOf(const Control& control) const {
   for (const auto& binding : bindings_)
-    if (&binding->control() == &control) return binding.get();
+    if (binding->shows(control)) return binding.get();
   return nullptr;
 }
 

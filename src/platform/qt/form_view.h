@@ -27,6 +27,7 @@ class FormView : public FormLook {
 
   Form& form() const { return form_; }
   const std::vector<std::unique_ptr<Binding>>& bindings() const { return bindings_; }
+  /// The binding in whose widget the control is seen.
   Binding* bindingOf(const Control& control) const;
   /// The binding whose widget is `widget` or holds it.
   Binding* bindingAround(const QWidget* widget) const;

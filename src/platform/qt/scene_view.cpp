@@ -1,0 +1,94 @@
+#include "platform/qt/scene_view.h"
+
+#include <QPainter>
+#include <cmath>
+
+#include "platform/form.h"
+#include "platform/qt/convert.h"
+
+namespace nautrel {
+namespace {
+
+// Pixels of an unscaled screen.
+constexpr double kPen = 2;
+constexpr double kOutline = 1;
+
+QPen penOf(const Figure& figure) {
+  if (figure.kind == Figure::Kind::Line)
+    return {toQt(figure.color), kPen, Qt::SolidLine, Qt::RoundCap};
+  return figure.outlined ? QPen(Qt::black, kOutline) : QPen(Qt::NoPen);
+}
+
+}  // namespace
+
+void SceneView::setFigures(std::vector<Figure> figures) {
+  figures_ = std::move(figures);
+  update();
+}
+
+// Edges fall between two dots of the screen, where they are sharp.
+QRectF SceneView::place(const Figure& figure) const {
+  const double dots = devicePixelRatioF();
+  const auto point = [&](double x, double y) {
+    return QPointF(std::round((x - frame_.left()) / frame_.width() * width() * dots) / dots,
+                   std::round((y - frame_.top()) / frame_.height() * height() * dots) / dots);
+  };
+  return {point(figure.left, figure.top),
+          point(figure.left + figure.width, figure.top + figure.height)};
+}
+
+void SceneView::draw(QPainter& painter, const Figure& figure) const {
+  const auto area = place(figure);
+  const auto color = toQt(figure.color);
+  painter.setPen(penOf(figure));
+  painter.setBrush(color);
+  switch (figure.kind) {
+    case Figure::Kind::Rectangle:
+      if (area.height() > 0) painter.drawRect(area.intersected(rect()));
+      return;
+    case Figure::Kind::Circle:
+      return painter.drawEllipse(area);
+    case Figure::Kind::Line:
+      return painter.drawLine(area.topLeft(),
+                              area.topLeft() + QPointF(area.width(), area.height()));
+    case Figure::Kind::Text:
+      painter.setPen(color);
+      painter.drawText(
+          area,
+          Qt::AlignTop | Qt::TextWordWrap | (figure.alignRight ? Qt::AlignRight : Qt::AlignLeft),
+          toQt(figure.text));
+  }
+}
+
+void SceneView::paintEvent(QPaintEvent*) {
+  if (frame_.isEmpty()) return;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (const auto& figure : figures_) draw(painter, figure);
+}
+
+SceneBinding::SceneBinding(Drawing& frame, SceneView& view)
+    : Binding(frame, view), frame_(frame), view_(view) {
+  const auto& area = frame.figure();
+  view.setFrame(QRectF(area.left, area.top, area.width, area.height));
+}
+
+bool SceneBinding::shows(const Control& control) const {
+  const auto* drawing = dynamic_cast<const Drawing*>(&control);
+  return drawing != nullptr && drawing->sharesPictureWith(frame_);
+}
+
+// What is written in the picture is told to those who cannot see it.
+void SceneBinding::pushContent() {
+  std::vector<Figure> figures;
+  QStringList texts;
+  for (const auto* control : frame_.form().controls()) {
+    if (!control->visible() || !shows(*control)) continue;
+    figures.push_back(static_cast<const Drawing*>(control)->figure());
+    if (const auto& text = figures.back().text; !text.empty()) texts += toQt(text);
+  }
+  view_.setFigures(std::move(figures));
+  view_.setAccessibleDescription(texts.join(", "));
+}
+
+}  // namespace nautrel
