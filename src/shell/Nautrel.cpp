@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "calculators/Form21.h"
+#include "calculators/Form22.h"
 #include "diver/Form15.h"
 #include "diver/Form7.h"
 #include "dives/Form13.h"
@@ -102,6 +103,9 @@ class Form20& Nautrel::Form20() {
 class Form21& Nautrel::Form21() {
   return window<class Form21>(21);
 }
+class Form22& Nautrel::Form22() {
+  return window<class Form22>(22);
+}
 
 void Nautrel::show(int number) {
   switch (number) {
@@ -141,6 +145,8 @@ void Nautrel::show(int number) {
       return Form20().Show();
     case 21:
       return Form21().Show();
+    case 22:
+      return Form22().Show();
     default:
       return;
   }

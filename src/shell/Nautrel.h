@@ -28,6 +28,7 @@ class Form18;
 class Form19;
 class Form20;
 class Form21;
+class Form22;
 class MDIForm1;
 class Modul1;
 
@@ -65,6 +66,7 @@ class Nautrel : public Program {
   class Form19& Form19();
   class Form20& Form20();
   class Form21& Form21();
+  class Form22& Form22();
 
   /// Loads and shows the child window of that number.
   void show(int number);

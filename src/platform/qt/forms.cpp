@@ -14,6 +14,7 @@
 #include "ui_Form2.h"
 #include "ui_Form20.h"
 #include "ui_Form21.h"
+#include "ui_Form22.h"
 #include "ui_Form3.h"
 #include "ui_Form4.h"
 #include "ui_Form5.h"
@@ -55,6 +56,7 @@ constexpr std::pair<std::string_view, Builder> kForms[] = {
     {"Form19", build<Ui::Form19>},
     {"Form20", build<Ui::Form20>},
     {"Form21", build<Ui::Form21>},
+    {"Form22", build<Ui::Form22>},
     // clang-format on
 };
 
