@@ -211,6 +211,14 @@ class ShapeBinding : public Binding {
   BubbleView& view_;
 };
 
+// Of several access keys in a caption ("&Pr&int") the last one counts.
+QString withOneAccessKey(QString caption) {
+  const auto last = caption.lastIndexOf('&');
+  for (auto key = last - 1; key >= 0; --key)
+    if (caption.at(key) == '&') caption.remove(key, 1);
+  return caption;
+}
+
 class ButtonBinding : public Binding {
  public:
   ButtonBinding(Button& button, QPushButton& widget)
@@ -222,7 +230,7 @@ class ButtonBinding : public Binding {
 
  protected:
   void pushContent() override {
-    if (const auto text = toQt(button_.caption()); widget_.text() != text) {
+    if (const auto text = withOneAccessKey(toQt(button_.caption())); widget_.text() != text) {
       widget_.setText(text);
       giveTextRoom();
     }

@@ -109,7 +109,7 @@ std::optional<long> QtDesktop::askColor(long color) {
 }
 
 bool QtDesktop::askPrinter() {
-  return setUpPrinterDialog(parentWindow());
+  return setUpPrinterDialog(parentWindow(), printer_);
 }
 
 // A value edited by hand may hold a comma, which the store reads as a list.

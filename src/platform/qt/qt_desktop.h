@@ -6,10 +6,12 @@
 
 #include "platform/desktop.h"
 #include "platform/qt/pictures.h"
+#include "platform/qt/printing.h"
 
 namespace nautrel {
 
 class QtLooks;
+class ReportPages;
 
 /// The real desktop behind the door.
 class QtDesktop : public Desktop {
@@ -45,11 +47,15 @@ class QtDesktop : public Desktop {
  private:
   QWidget* parentWindow() const;
   QPoint popupPlace(const Control* above) const;
+  /// Runs a step of a report; its fault is told to the user and ends there.
+  void telling(const std::function<void()>& step);
+  void preview(const ReportPages& pages, const QString& title);
 
   QtLooks* looks_ = nullptr;
   Locale locale_;
   QSettings settings_;
   Pictures pictures_;
+  PrinterSetUp printer_;
   std::optional<RunTimeError> failure_;
 };
 

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QWidget>
+
+namespace nautrel {
+
+class ReportPages;
+
+/// The pages of a report below each other, painted as they come into view.
+class PagesView : public QWidget {
+ public:
+  PagesView(const ReportPages& pages, QWidget* parent);
+
+  /// 1 shows the paper in its own size.
+  double zoom() const { return zoom_; }
+  void setZoom(double zoom);
+  /// The largest zoom at which a page fits into the room.
+  void fit(const QSize& room);
+  /// Pages count from 0; `topOf` is where the view scrolls to show one.
+  int topOf(int page) const;
+  int pageAt(int y) const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  double pixelsPerTwip() const;
+  QSizeF sheet() const;
+  void paintSheet(QPainter& painter, int page) const;
+
+  const ReportPages& pages_;
+  double zoom_ = 1;
+};
+
+}  // namespace nautrel

@@ -1,0 +1,61 @@
+#include "platform/qt/report_pages.h"
+
+#include <QPainter>
+#include <QPdfWriter>
+
+#include "platform/desktop.h"
+#include "platform/qt/report_list.h"
+#include "platform/qt/report_page.h"
+
+namespace nautrel {
+namespace {
+
+constexpr int kTwipsPerInch = 1440;
+constexpr int kTwipsPerPoint = 20;
+
+QRectF twips(const QRectF& points) {
+  return {points.topLeft() * kTwipsPerPoint, points.size() * kTwipsPerPoint};
+}
+
+}  // namespace
+
+QRectF ReportPages::sheet() const {
+  return twips(paper_.fullRect(QPageLayout::Point));
+}
+
+QRectF ReportPages::body() const {
+  return twips(paper_.paintRect(QPageLayout::Point));
+}
+
+std::unique_ptr<ReportPages> layOut(ReportDocument report, QPageLayout paper) {
+  if (auto* list = std::get_if<ListReport>(&report))
+    return std::make_unique<ReportList>(std::move(*list), turnedFor(list->layout, paper));
+  return std::make_unique<ReportPage>(std::get<PageReport>(report), paper);
+}
+
+bool printPages(const ReportPages& pages, QPagedPaintDevice& device, int first, int last) {
+  device.setPageLayout(pages.paper());
+  QPainter painter;
+  if (!painter.begin(&device)) return false;
+  const auto printable = device.pageLayout().paintRect(QPageLayout::Point);
+  const double scale = static_cast<double>(device.logicalDpiX()) / kTwipsPerInch;
+  for (int page = first; page <= last; ++page) {
+    if (page > first && !device.newPage()) return false;
+    painter.save();
+    painter.scale(scale, scale);
+    painter.translate(-printable.topLeft() * kTwipsPerPoint);
+    pages.paint(painter, page);
+    painter.restore();
+  }
+  return painter.end();
+}
+
+bool savePdf(const ReportPages& pages, const QString& path, const QString& title) {
+  QPdfWriter writer(path);
+  writer.setTitle(title);
+  writer.setCreator(QString::fromUtf8(kApplicationTitle));
+  writer.setResolution(kTwipsPerInch);
+  return printPages(pages, writer, 0, pages.count() - 1);
+}
+
+}  // namespace nautrel

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+
+class QComboBox;
+class QLabel;
+class QScrollArea;
+class QSpinBox;
+class QToolBar;
+
+namespace nautrel {
+
+class PagesView;
+class ReportPages;
+
+/// A report on the screen: leafing, zoom, printing, saving as PDF. Pages are painted when they come
+/// into view.
+class ReportPreview : public QDialog {
+ public:
+  ReportPreview(const ReportPages& pages, const QString& title, QWidget* parent);
+
+  /// Called by "Print...".
+  std::function<void()> print;
+  /// Called by "Save as PDF...".
+  std::function<void()> save;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  QToolBar* makeToolBar();
+  void addLeafing(QToolBar& bar);
+  void addZoom(QToolBar& bar);
+  void applyZoom();
+  void stepZoom(int direction);
+  void showPage(int page);
+  void followScrolling();
+
+  const ReportPages& pages_;
+  QScrollArea* area_;
+  PagesView* view_;
+  QSpinBox* page_ = nullptr;
+  QComboBox* zoom_ = nullptr;
+};
+
+}  // namespace nautrel

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/desktop.h"
+#include "platform/text.h"
+
+namespace nautrel {
+
+/// A report that cannot be made, told in words for the user.
+struct ReportFault {
+  std::string text;
+};
+
+/// A report whose template is a page of HTML.
+struct PageReport {
+  std::string html;
+};
+
+/// How a list looks on paper.
+struct ListLayout {
+  enum class Paper { Auto, Portrait, Landscape };
+  enum class Alignment { Left, Center, Right };
+  struct Column {
+    std::string head;
+    double width = 0;  // millimetres
+    Alignment alignment = Alignment::Left;
+  };
+
+  Paper paper = Paper::Auto;
+  double textSize = 9;   // points
+  int linesPerCell = 2;  // what needs more is cut
+  std::vector<Column> columns;
+};
+
+/// A report whose template is a list: one line a row, on as many pages as it takes.
+struct ListReport {
+  std::string title;
+  std::string subtitle;
+  /// The foot of a page, counted from 1; a bar parts left from right.
+  std::function<std::string(int page, int pages)> footer;
+  ListLayout layout;
+  std::vector<std::string> cells;  // row after row, as many a row as there are columns
+
+  std::size_t rows() const { return cells.size() / layout.columns.size(); }
+};
+
+using ReportDocument = std::variant<PageReport, ListReport>;
+
+/// Fills the job's template from the logbook that stands beside it. Raises ReportFault: the
+/// template is missing or broken, the selection cannot be read, the logbook cannot be opened.
+ReportDocument makeReport(const ReportJob& job, const DateTime& printed, const Locale& locale);
+
+}  // namespace nautrel
