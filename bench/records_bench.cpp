@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <memory>
 
 #include "bench_support.h"
 #include "dives/Form5.h"
@@ -26,12 +27,20 @@ const Logbook& logbook() {
 /// The program as the diver has it before him, but for the screen.
 class Running {
  public:
-  Running() : desktop(logbook().folder().string()), app(desktop), looks(app) {
-    app.setLooks(&looks);
-    app.start();
-    app.Form1().Timer1.userFires();
+  Running()
+      : desktop_(logbook().folder().string()),
+        app_(std::make_unique<Nautrel>(desktop_)),
+        looks_(*app_) {
+    app_->setLooks(&looks_);
+    app_->start();
+    app_->Form1().Timer1.userFires();
     QApplication::processEvents();
   }
+  ~Running() { app_.reset(); }
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
+
+  Nautrel& app() { return *app_; }
 
  private:
   static QApplication& screen() {
@@ -44,11 +53,9 @@ class Running {
   }
 
   QApplication& screen_ = screen();
-
- public:
-  QuietDesktop desktop;
-  Nautrel app;
-  QtLooks looks;
+  QuietDesktop desktop_;
+  std::unique_ptr<Nautrel> app_;
+  QtLooks looks_;
 };
 
 int otherStart() {
@@ -58,8 +65,8 @@ int otherStart() {
 
 void sortLogbook(benchmark::State& state) {
   Running running;
-  running.app.MDIForm1().Menü1d.userClick();
-  auto& form = running.app.Form8();
+  running.app().MDIForm1().Menü1d.userClick();
+  auto& form = running.app().Form8();
   for (auto _ : state) {
     form.Text1.setText(std::to_string(otherStart()));
     form.Command1.userClick();
@@ -76,8 +83,8 @@ void sortBare(benchmark::State& state) {
 
 void deleteFirst(benchmark::State& state) {
   Running running;
-  running.app.MDIForm1().Menü2c.userClick();
-  auto& form = running.app.Form5();
+  running.app().MDIForm1().Menü2c.userClick();
+  auto& form = running.app().Form5();
   for (auto _ : state) {
     form.Data1.userPress(Navigator::Arrow::First);
     form.Command1.userClick();

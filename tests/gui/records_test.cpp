@@ -67,6 +67,22 @@ TEST_F(RecordWindows, TheNavigatorLeavesTheFocusToTheBoxAndTheWindowSelectsItsTe
   EXPECT_EQ(fromQt(window(form)->windowTitle()), "Edit dives - Number 3");
 }
 
+TEST_F(RecordWindows, AnAccessKeyOfTheWindowComesBeforeThatOfTheMenuBar) {
+  addDives(1, 3);
+  start();
+  click(app->MDIForm1().Menü2c);
+  choose(app->Form5().SSTab1, 1);
+  settle();
+  mouse(app->Form5().Text6);
+  keys("2");
+  mouse(app->Form5().Text7);
+  keys("1");
+  key(Qt::Key_E, Qt::AltModifier);
+  EXPECT_EQ(desktop->texts(),
+            std::vector<std::string>{"First dive-# must be lower than last dive-#"});
+  expectFocus(app->Form5().Command4);
+}
+
 TEST_F(RecordWindows, TheTableReadsOnlyTheRowsInSight) {
   addDives(1, 400);
   auto dive = someDive(401);
