@@ -19,6 +19,7 @@
 #include "platform/qt/form_view.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_looks.h"
+#include "search/Form20.h"
 #include "shell/Form1.h"
 #include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
@@ -97,6 +98,25 @@ void linkPhoto(const Logbook& logbook) {
   file.settle();
 }
 
+/// Every dive is a hit, and the hits appear while the pass runs.
+void measureSearch(Nautrel& app) {
+  app.MDIForm1().Menü3e.userClick();
+  auto& search = app.Form20();
+  const auto again = [&] {
+    search.neue_Suche();
+    search.Combo1.userType("water");
+    search.Command1.userClick();
+  };
+  settleScreen();
+  print("full search that finds every dive", once(again), "ms", 500);
+  const double memory = residentMegabytes();
+  print("the tenth of them", median(9, again), "ms", 500);
+  print("memory that nine searches have kept", residentMegabytes() - memory, "MB", 1);
+  search.List1.userSelect(search.List1.ListCount() - 1);
+  print("a hit opens, with all of them beside it", once([&] { search.List1.userDoubleClick(); }),
+        "ms", 150);
+}
+
 void measure(const Logbook& logbook) {
   BenchDesktop desktop(logbook.folder().string());
   Nautrel app(desktop);
@@ -119,6 +139,8 @@ void measure(const Logbook& logbook) {
   print("memory with the photo", residentMegabytes(), "MB", 160);
 
   print("Logbook Table opens", once([&] { app.MDIForm1().Menü3d.userClick(); }), "ms", 150);
+
+  measureSearch(app);
 
   app.MDIForm1().Menü2a.userClick();
   settleScreen();
