@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "dives/Form3.h"
+#include "dives/Form4.h"
+#include "dives/Form5.h"
 #include "evaluation/Form6.h"
 #include "platform/errors.h"
 #include "shell/Form18.h"
@@ -284,7 +286,8 @@ void MDIForm1::showRecordDive(int window) {
 
 Recordset& MDIForm1::recordsOf(int window) {
   if (window == 3) return app_.Form3().Data1.Recordset();
-  raise(ObjectNotSet);
+  if (window == 4) return app_.Form4().Data1.Recordset();
+  return app_.Form5().Data1.Recordset();
 }
 
 void MDIForm1::gateCommands(bool enabled) {

@@ -3,6 +3,8 @@
 #include <filesystem>
 
 #include "dives/Form3.h"
+#include "dives/Form4.h"
+#include "dives/Form5.h"
 #include "evaluation/evaluation_test.h"
 
 namespace nautrel {
@@ -281,6 +283,24 @@ TEST_F(Statistic, ANumberButtonShowsItsDive) {
   EXPECT_TRUE(app->loaded(6));
   EXPECT_EQ(form.Left(), 0);
   EXPECT_EQ(form.Top(), 0);
+}
+
+TEST_F(Statistic, ItsDiveIsEditedOrDeletedInAWindowOfItsOwn) {
+  addDives(5, 7);
+  add(dive(8, "90", "20"));
+  auto& form = open();
+  desktop->answerMenu("Menü8b");
+  click(form.Command4);
+  EXPECT_EQ(app->Form4().Text1.text(), "8");
+  desktop->answerMenu("Menü8c");
+  click(form.Command4);
+  EXPECT_FALSE(app->loaded(4));
+  EXPECT_EQ(app->Form5().Data1.Recordset().Fields("Nr"), Value("8"));
+  desktop->answerMenu("Menü8a");
+  click(form.Command4);
+  EXPECT_FALSE(app->loaded(5));
+  EXPECT_TRUE(app->loaded(3));
+  EXPECT_TRUE(app->loaded(6));
 }
 
 TEST_F(Statistic, AButtonWithoutADiveLeavesTheFirstOne) {
