@@ -28,7 +28,7 @@ class QuietDesktop : public Desktop {
   void run(const ReportJob&) override {}
   void open(const std::string&) override {}
   void copy(const Chart&) override {}
-  void popup(Menu&, const Form*, double, double) override {}
+  void popup(Menu&, const Control*) override {}
   void print(const std::string&) override {}
   std::string executableFolder() override { return folder_; }
   ScreenSize screenSize() override { return {}; }
