@@ -3,15 +3,12 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMouseEvent>
-#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTextBlock>
 
 #include "platform/controls.h"
 #include "platform/form.h"
@@ -26,98 +23,10 @@
 #include "platform/qt/scene_view.h"
 #include "platform/qt/spin_arrows.h"
 #include "platform/qt/table_binding.h"
-#include "platform/text.h"
+#include "platform/qt/text_binding.h"
 
 namespace nautrel {
 namespace {
-
-/// A locked box looks like the window behind it, in a light theme and in a dark one.
-void showLocked(QWidget& box, bool locked) {
-  auto palette = box.palette();
-  const auto role = locked ? QPalette::Window : QPalette::Base;
-  const auto color = box.parentWidget()->palette().color(role);
-  if (palette.color(QPalette::Base) == color) return;
-  palette.setColor(QPalette::Base, color);
-  box.setPalette(palette);
-}
-
-/// A press on a box whose rule-bound neighbour keeps the focus must not reach the box.
-bool pressIsVoid(QEvent* event, const Control& control) {
-  return event->type() == QEvent::MouseButtonPress && !control.hasFocus();
-}
-
-class LineEditBinding : public Binding {
- public:
-  LineEditBinding(TextBox& box, QLineEdit& edit) : Binding(box, edit), box_(box), edit_(edit) {
-    edit.setReadOnly(box.locked());
-    showLocked(edit, box.locked());
-    connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
-      box_.userEdit(fromQt(text), fromQtPosition(text, edit_.cursorPosition()));
-    });
-  }
-
- protected:
-  bool filter(QEvent* event) override { return pressIsVoid(event, box_); }
-
-  void pushContent() override {
-    const auto text = toQt(box_.text());
-    const bool rewritten = edit_.text() != text;
-    if (rewritten) edit_.setText(text);
-    if (!rewritten && stamp_ == box_.selectionStamp()) return;
-    stamp_ = box_.selectionStamp();
-    const int start = toQtPosition(text, box_.SelStart());
-    const int end = toQtPosition(text, box_.SelStart() + box_.SelLength());
-    if (end > start)
-      edit_.setSelection(start, end - start);
-    else
-      edit_.setCursorPosition(start);
-  }
-
- private:
-  TextBox& box_;
-  QLineEdit& edit_;
-  unsigned stamp_ = 0;
-};
-
-class PlainTextBinding : public Binding {
- public:
-  PlainTextBinding(TextBox& box, QPlainTextEdit& edit)
-      : Binding(box, edit), box_(box), edit_(edit) {
-    edit.setReadOnly(box.locked());
-    edit.setTabChangesFocus(true);
-    showLocked(edit, box.locked());
-    watch(*edit.viewport());
-    connect(&edit, &QPlainTextEdit::textChanged, this, [this] {
-      const auto text = edit_.toPlainText();
-      if (text == shown()) return;
-      box_.userEdit(fromQt(text), fromQtPosition(text, edit_.textCursor().position()));
-    });
-  }
-
- protected:
-  bool filter(QEvent* event) override { return pressIsVoid(event, box_); }
-
-  void pushContent() override {
-    const auto text = shown();
-    const bool rewritten = edit_.toPlainText() != text;
-    if (rewritten) edit_.setPlainText(text);
-    if (!rewritten && stamp_ == box_.selectionStamp()) return;
-    stamp_ = box_.selectionStamp();
-    auto cursor = edit_.textCursor();
-    cursor.setPosition(toQtPosition(text, box_.SelStart()));
-    cursor.setPosition(toQtPosition(text, box_.SelStart() + box_.SelLength()),
-                       QTextCursor::KeepAnchor);
-    edit_.setTextCursor(cursor);
-  }
-
- private:
-  // The widget knows one kind of line end only; the text keeps its own until it is edited.
-  QString shown() const { return toQt(box_.text()).replace("\r\n", "\n").replace('\r', '\n'); }
-
-  TextBox& box_;
-  QPlainTextEdit& edit_;
-  unsigned stamp_ = 0;
-};
 
 class LabelBinding : public Binding {
  public:
@@ -160,7 +69,7 @@ class PlainBinding : public Binding {
 class PictureBoxBinding : public Binding {
  public:
   PictureBoxBinding(PictureBox& box, QWidget& widget) : Binding(box, widget), box_(box) {
-    widget.setAutoFillBackground(true);
+    widget.setAutoFillBackground(static_cast<bool>(box.Click));
   }
 
  protected:

@@ -1,6 +1,7 @@
 #include "platform/qt/scene_view.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 #include "platform/form.h"
@@ -12,11 +13,18 @@ namespace {
 // Pixels of an unscaled screen.
 constexpr double kPen = 2;
 constexpr double kOutline = 1;
+constexpr QPointF kPenMiddle(kPen / 2, kPen / 2);
 
 QPen penOf(const Figure& figure) {
   if (figure.kind == Figure::Kind::Line)
     return {toQt(figure.color), kPen, Qt::SolidLine, Qt::RoundCap};
   return figure.outlined ? QPen(Qt::black, kOutline) : QPen(Qt::NoPen);
+}
+
+// Round, even if the widget is not in proportion to the picture.
+void drawCircle(QPainter& painter, const QRectF& area) {
+  const double radius = std::min(area.width(), area.height()) / 2;
+  painter.drawEllipse(area.center(), radius, radius);
 }
 
 }  // namespace
@@ -26,7 +34,8 @@ void SceneView::setFigures(std::vector<Figure> figures) {
   update();
 }
 
-// Edges fall between two dots of the screen, where they are sharp.
+// Edges fall between two dots of the screen, where they are sharp. A line lies on the right of its
+// place and below, so that what a bucket holds ends at its walls.
 QRectF SceneView::place(const Figure& figure) const {
   const double dots = devicePixelRatioF();
   const auto point = [&](double x, double y) {
@@ -47,10 +56,9 @@ void SceneView::draw(QPainter& painter, const Figure& figure) const {
       if (area.height() > 0) painter.drawRect(area.intersected(rect()));
       return;
     case Figure::Kind::Circle:
-      return painter.drawEllipse(area);
+      return drawCircle(painter, area);
     case Figure::Kind::Line:
-      return painter.drawLine(area.topLeft(),
-                              area.topLeft() + QPointF(area.width(), area.height()));
+      return painter.drawLine(area.topLeft() + kPenMiddle, area.bottomRight() + kPenMiddle);
     case Figure::Kind::Text:
       painter.setPen(color);
       painter.drawText(

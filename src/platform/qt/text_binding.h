@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include "platform/controls.h"
+#include "platform/qt/binding.h"
+
+namespace nautrel {
+
+/// A box of one line.
+class LineEditBinding : public Binding {
+ public:
+  LineEditBinding(TextBox& box, QLineEdit& edit);
+
+ protected:
+  bool filter(QEvent* event) override;
+  void pushContent() override;
+
+ private:
+  void showSelection();
+  void arrive(Qt::FocusReason reason);
+  bool selectedOnArrival(QEvent* event);
+
+  TextBox& box_;
+  QLineEdit& edit_;
+  unsigned stamp_ = 0;
+  bool headShown_ = false;
+  unsigned stampOnArrival_ = 0;
+  bool arrivingByMouse_ = false;
+  bool pressing_ = false;
+};
+
+/// A box of several lines.
+class PlainTextBinding : public Binding {
+ public:
+  PlainTextBinding(TextBox& box, QPlainTextEdit& edit);
+
+ protected:
+  bool filter(QEvent* event) override;
+  void pushContent() override;
+
+ private:
+  QString shown() const;
+
+  TextBox& box_;
+  QPlainTextEdit& edit_;
+  unsigned stamp_ = 0;
+};
+
+}  // namespace nautrel
