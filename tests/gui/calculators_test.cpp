@@ -1,0 +1,93 @@
+#include "calculators/Form21.h"
+#include "calculators/Form22.h"
+#include "gui/gui_test.h"
+#include "platform/qt/scene_view.h"
+
+namespace nautrel {
+namespace {
+
+class Calculators : public GuiTest {
+ protected:
+  Form21& units() {
+    start();
+    click(app->MDIForm1().Menü7a);
+    settle();
+    return app->Form21();
+  }
+  Form22& air() {
+    start();
+    click(app->MDIForm1().Menü7c);
+    settle();
+    return app->Form22();
+  }
+  QLineEdit& edit(const Control& box) { return widget<QLineEdit>(box); }
+};
+
+TEST_F(Calculators, FillThePageUnderTheKeys) {
+  auto& form = units();
+  mouse(form.Text3);
+  keys("18");
+  EXPECT_EQ(edit(form.Text4).text(), "59.040000000");
+  EXPECT_EQ(edit(form.Text3).cursorPosition(), 2);
+  key(Qt::Key_Backspace);
+  EXPECT_EQ(edit(form.Text4).text(), "3.280000000");
+  key(Qt::Key_Escape);
+  EXPECT_FALSE(app->loaded(21));
+}
+
+TEST_F(Calculators, ShowTheHeadOfANumberThatIsTooLong) {
+  auto& form = units();
+  mouse(form.Text8);
+  keys("1234567890123456789012345");
+  EXPECT_GT(form.Text1.text().size(), 30U);
+  EXPECT_EQ(edit(form.Text1).cursorPosition(), 0);
+  EXPECT_EQ(edit(form.Text8).cursorPosition(), 25);
+}
+
+TEST_F(Calculators, SelectTheTextOfTheBoxThatIsClicked) {
+  auto& form = air();
+  mouse(form.Text1);
+  EXPECT_EQ(edit(form.Text1).selectedText(), "0");
+  keys("33");
+  mouse(form.Text2);
+  keys("7");
+  mouse(form.Text1);
+  EXPECT_EQ(edit(form.Text1).selectedText(), "33");
+  mouse(form.Text1);
+  EXPECT_EQ(edit(form.Text1).selectedText(), "");
+  keys("0");
+  key(Qt::Key_Return);
+  EXPECT_EQ(form.Label9.caption(), "17.3 psi");
+}
+
+/// The colours of a picture, given in twips, at the dots where they are told to be.
+QColor colorAt(QWidget& view, const Figure& frame, double left, double top) {
+  const auto image = view.grab().toImage();
+  return image.pixelColor(static_cast<int>((left - frame.left) / frame.width * image.width()),
+                          static_cast<int>((top - frame.top) / frame.height * image.height()));
+}
+
+TEST_F(Calculators, PaintTheAirAsHighAsItStands) {
+  auto& form = air();
+  const auto water = toQt(Form22::kWater);
+  const auto air = toQt(Form22::kAir);
+  mouse(form.Text2);
+  keys("33");
+  mouse(form.Command3);
+  auto& view = widget(form.Shape2);
+  const auto frame = form.Shape2.figure();
+  EXPECT_EQ(colorAt(view, frame, 2160, 1500), air);
+  EXPECT_EQ(colorAt(view, frame, 2160, 2170), air);
+  EXPECT_EQ(colorAt(view, frame, 2160, 2270), water);
+  EXPECT_EQ(view.accessibleDescription(), "0 ft, 33 ft");
+  form.Shape4.setHeight(1e30);
+  settle();
+  EXPECT_EQ(colorAt(view, frame, 2160, 2850), air);
+  form.Shape4.setHeight(-1e30);
+  settle();
+  EXPECT_EQ(colorAt(view, frame, 2160, 2000), water);
+  EXPECT_EQ(colorAt(view, frame, 2160, 1700), water);
+}
+
+}  // namespace
+}  // namespace nautrel
