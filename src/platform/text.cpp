@@ -34,8 +34,8 @@ void append(std::string& text, char32_t code) {
   text.append(reinterpret_cast<const char*>(bytes.data()), static_cast<std::size_t>(count));
 }
 
-// Whole dives are lowered for each search, and most of their characters are plain: those go by
-// runs, and the runs by whole words of the machine.
+// Whole logbooks are searched and written to files, and most of their characters are plain: those
+// go by runs, and the runs by whole words of the machine.
 std::size_t plainUntil(std::string_view text, std::size_t byte) {
   constexpr std::uint64_t kForeign = 0x8080808080808080;
   std::uint64_t word = 0;
@@ -140,6 +140,10 @@ std::string toCodePage(std::string_view text) {
   std::string bytes;
   bytes.reserve(text.size());
   for (std::size_t byte = 0; byte < text.size();) {
+    const auto plain = plainUntil(text, byte);
+    bytes += text.substr(byte, plain - byte);
+    byte = plain;
+    if (byte == text.size()) break;
     const auto character = characterAt(text, byte);
     bytes += codePageByte(character.code);
     byte += character.bytes;

@@ -26,19 +26,18 @@ TextFile::TextFile(const std::string& path) {
 }
 
 void TextFile::print(std::string_view text) {
-  const auto bytes = toCodePage(text);
-  out_ << bytes;
-  written_ += bytes.size();
+  line_ += toCodePage(text);
 }
 
 void TextFile::print(Tab tab) {
-  if (written_ >= tab.column) endLine();
-  print(std::string(tab.column - 1 - written_, ' '));
+  if (line_.size() >= tab.column) endLine();
+  line_.resize(tab.column - 1, ' ');
 }
 
 void TextFile::endLine() {
-  out_ << "\r\n";
-  written_ = 0;
+  line_ += "\r\n";
+  out_ << line_;
+  line_.clear();
 }
 
 std::string readTextFile(const std::string& path) {

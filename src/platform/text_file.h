@@ -33,7 +33,7 @@ class TextFile {
   void endLine();
 
   std::ofstream out_;
-  std::size_t written_ = 0;  // characters on the current line
+  std::string line_;  // as it will stand in the file, one byte a character
 };
 
 /// The text of such a file. Raises 53 if there is none.

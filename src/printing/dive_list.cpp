@@ -1,6 +1,7 @@
 #include "printing/dive_list.h"
 
 #include <optional>
+#include <utility>
 
 #include "platform/errors.h"
 #include "platform/text_file.h"
@@ -32,8 +33,8 @@ void writeHead(TextFile& file, const DateTime& printed, const Locale& locale) {
 // The metres stand behind a depth in feet as they always have.
 void writeDive(TextFile& file, const Recordset& dive, const Locale& locale) {
   const auto alone = [&](int ordinal) {
-    const auto value = dive.Fields(ordinal);
-    return value.isNull() ? std::string("Null") : value.text(locale);
+    auto value = dive.Fields(ordinal);
+    return value.isNull() ? std::string("Null") : std::move(value).joined(locale);
   };
   const auto joined = [&](int ordinal) { return dive.Fields(ordinal).joined(locale); };
   const auto date = joined(Feld::Tag) + "." + joined(Feld::Monat) + "." + joined(Feld::Jahr);
