@@ -1,6 +1,7 @@
 #include "platform/qt/message_box.h"
 
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -14,6 +15,8 @@ constexpr int kYesNo = 4;
 constexpr int kButtons = 0x0F;
 constexpr int kIcons = 0xF0;
 constexpr int kSecondDefault = 256;
+constexpr int kLeastWidth = 220;    // pixels
+constexpr int kTitleButtons = 140;  // what a desktop puts beside a title
 
 /// Neither Esc nor the close box answers a question.
 class Question : public QMessageBox {
@@ -43,11 +46,20 @@ QMessageBox::Icon icon(int style) {
   }
 }
 
+/// As wide as its title needs, which tells as much as the prompt in some questions.
+void giveTitleRoom(QMessageBox& box, const QString& title) {
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (grid == nullptr) return;
+  const int width = qMax(kLeastWidth, box.fontMetrics().horizontalAdvance(title) + kTitleButtons);
+  grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 void prepare(QMessageBox& box, const QString& prompt, int style, const QString& title) {
   box.setWindowTitle(title);
   box.setTextFormat(Qt::PlainText);
   box.setText(prompt);
   box.setIcon(icon(style));
+  giveTitleRoom(box, title);
 }
 
 }  // namespace
