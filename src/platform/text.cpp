@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
-#include <cstring>
 
 namespace nautrel {
 namespace {
@@ -35,13 +33,13 @@ void append(std::string& text, char32_t code) {
 }
 
 // Whole logbooks are searched and written to files, and most of their characters are plain: those
-// go by runs, and the runs by whole words of the machine.
+// go by runs, and the runs by blocks that the machine takes at once.
 std::size_t plainUntil(std::string_view text, std::size_t byte) {
-  constexpr std::uint64_t kForeign = 0x8080808080808080;
-  std::uint64_t word = 0;
-  for (; byte + sizeof word <= text.size(); byte += sizeof word) {
-    std::memcpy(&word, text.data() + byte, sizeof word);
-    if ((word & kForeign) != 0) break;
+  constexpr std::size_t kBlock = 32;
+  for (; byte + kBlock <= text.size(); byte += kBlock) {
+    unsigned char all = 0;
+    for (std::size_t i = 0; i < kBlock; ++i) all |= static_cast<unsigned char>(text[byte + i]);
+    if (all >= 0x80) break;
   }
   while (byte < text.size() && static_cast<unsigned char>(text[byte]) < 0x80) ++byte;
   return byte;
@@ -50,8 +48,12 @@ std::size_t plainUntil(std::string_view text, std::size_t byte) {
 void appendPlainLower(std::string& lower, std::string_view run) {
   const auto start = lower.size();
   lower += run;
-  for (auto byte = start; byte < lower.size(); ++byte)
-    lower[byte] += static_cast<char>(lower[byte] >= 'A' && lower[byte] <= 'Z' ? 'a' - 'A' : 0);
+  char* const letters = lower.data() + start;
+  const auto count = run.size();
+  for (std::size_t i = 0; i < count; ++i) {
+    const bool capital = static_cast<unsigned char>(letters[i] - 'A') <= 'Z' - 'A';
+    letters[i] = static_cast<char>(letters[i] | (capital ? 'a' - 'A' : 0));
+  }
 }
 
 // What the code page holds from byte 0x80 on; from 0xA0 on it is the same as Unicode. The five

@@ -23,6 +23,12 @@ constexpr NumberColumn kColumns[] = {
     {Feld::Blei, &Form14::Check11}, {kDate, &Form14::Check6},
 };
 
+/// As its three columns join it: "05.03.2001".
+std::string joinedDate(const Recordset& row, const Locale& locale) {
+  return row.Fields(Feld::Tag).joined(locale) + "." + row.Fields(Feld::Monat).joined(locale) + "." +
+         row.Fields(Feld::Jahr).joined(locale);
+}
+
 }  // namespace
 
 Form14::Form14(Nautrel& app)

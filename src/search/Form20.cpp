@@ -57,18 +57,23 @@ void Form20::Command1_Click() {
   showOutcome("'" + term + "' not found");
 }
 
+// Each piece has a blank behind it; the date brings one of its own.
 void Form20::writeRecord(const Recordset& row) {
-  const auto add = [this](std::string_view piece) {
-    RichTextBox1.append(piece);
-    RichTextBox1.append(" ");
+  auto text = RichTextBox1.takeText();
+  text.clear();
+  const auto add = [&](int ordinal, const char* behind = " ") {
+    row.appendField(text, ordinal);
+    text += behind;
   };
-  RichTextBox1.setText("");
-  for (const int ordinal : kBeforeDate) add(row.Fields(ordinal).joined(locale()));
-  add(joinedDate(row, locale()) + " ");
-  for (const int ordinal : kBehindDate) add(row.Fields(ordinal).joined(locale()));
+  for (const int ordinal : kBeforeDate) add(ordinal);
+  add(Feld::Tag, ".");
+  add(Feld::Monat, ".");
+  add(Feld::Jahr, "  ");
+  for (const int ordinal : kBehindDate) add(ordinal);
   for (const auto& [ordinal, word] : kFlagWords)
-    if (row.Fields(ordinal).isYes()) add(word);
-  add(row.Fields(Feld::Grafik).joined(locale()));
+    if (row.Fields(ordinal).isYes()) text.append(word) += ' ';
+  add(Feld::Grafik);
+  RichTextBox1.setText(std::move(text));
 }
 
 void Form20::neue_Suche() {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace nautrel {
 
@@ -12,8 +13,9 @@ class RichTextBox {
   enum Options { rtfNone = 0, rtfWholeWord = 2 };
 
   const std::string& text() const { return text_; }
-  void setText(std::string_view text) { text_ = text; }
-  void append(std::string_view piece) { text_ += piece; }
+  void setText(std::string text) { text_ = std::move(text); }
+  /// Empties the box; what held its text can hold the next one.
+  std::string takeText() { return std::exchange(text_, {}); }
 
   /// The first place of the term in the text, in characters from 0, or -1; case does not matter. A
   /// whole word has no letter, digit or underscore on either side. An empty term is nowhere.

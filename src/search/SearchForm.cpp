@@ -94,16 +94,17 @@ void SearchForm::scan(const Columns& columns, const RowTest& isHit) {
   auto& progress = app_.MDIForm1().ProgressBar1;
   shared.FortschrittMaximum = number(Text2.text()) - number(Text1.text()) + 1;
   shared.FortschrittAnzeigen();
+  int hits = 0;
   for (double counter = 1; counter <= shared.FortschrittMaximum; ++counter) {
-    if (isHit(rows)) addHit(rows);
+    if (isHit(rows)) addHit(rows, ++hits);
     run([&] { rows.MoveNext(); });
     progress.setValue(counter);
   }
 }
 
-void SearchForm::addHit(const Recordset& row) {
+void SearchForm::addHit(const Recordset& row, int count) {
   run([&] { List1.AddItem(row.Fields(Feld::Nr).text(locale())); });
-  Label4.setCaption(text(number(Label4.caption()) + 1));
+  Label4.setCaption(std::to_string(count));
   List1.Refresh();
   Label4.Refresh();
 }
@@ -183,11 +184,6 @@ void SearchForm::showFoundDives(const Form& beside, const char* mode) {
   for (const auto& line : List1.lines()) found.List1.AddItem(line);
   found.List1.setListIndex(List1.ListIndex());
   found.Text1.setText(mode);
-}
-
-std::string joinedDate(const Recordset& row, const Locale& locale) {
-  return row.Fields(Feld::Tag).joined(locale) + "." + row.Fields(Feld::Monat).joined(locale) + "." +
-         row.Fields(Feld::Jahr).joined(locale);
 }
 
 }  // namespace nautrel

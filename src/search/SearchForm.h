@@ -79,7 +79,7 @@ class SearchForm : public Form {
 
  private:
   void bindRange();
-  void addHit(const Recordset& row);
+  void addHit(const Recordset& row, int count);
   void openHit();
   template <class Statement>
   void run(Statement&& statement) const;
@@ -89,8 +89,5 @@ class SearchForm : public Form {
 
   Differences differences_;
 };
-
-/// The date of a dive as its three columns join it: "05.03.2001".
-std::string joinedDate(const Recordset& row, const Locale& locale);
 
 }  // namespace nautrel

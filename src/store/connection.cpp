@@ -190,6 +190,12 @@ Value Statement::value(int column, Kind kind) const {
   return std::string(text, size);
 }
 
+std::string_view Statement::text(int column) const {
+  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(handle_.get(), column));
+  if (text == nullptr) return {};
+  return {text, static_cast<std::size_t>(sqlite3_column_bytes(handle_.get(), column))};
+}
+
 std::string sqlName(std::string_view name) {
   std::string sql = "\"";
   for (const char character : name) sql.append(character == '"' ? 2 : 1, character);

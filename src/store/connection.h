@@ -79,6 +79,8 @@ class Statement {
 
   std::int64_t integer(int column) const { return sqlite3_column_int64(handle_.get(), column); }
   Value value(int column, Kind kind) const;
+  /// NULL as the empty text. Good until the next step or reset.
+  std::string_view text(int column) const;
 
  private:
   struct Finalizer {

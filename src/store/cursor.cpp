@@ -131,6 +131,15 @@ Value Cursor::field(int ordinal) const {
   return live_ ? walk_.value(slot + 1, kinds_[ordinal]) : values_[slot];
 }
 
+void Cursor::appendField(std::string& text, int ordinal) const {
+  requireColumn(ordinal);
+  const int slot = slots_[ordinal];
+  if (live_ && pending_ == Pending::None && slot >= 0 && kinds_[ordinal] == Kind::Text)
+    text += walk_.text(slot + 1);
+  else
+    text += field(ordinal).joined({});
+}
+
 void Cursor::assign(int ordinal, const Value& value) {
   requireColumn(ordinal);
   if (pending_ == Pending::None) raise(NoEditPending);

@@ -33,6 +33,7 @@ class Cursor {
   /// Raises 3265.
   int ordinalOf(std::string_view name) const;
   Value field(int ordinal) const;
+  void appendField(std::string& text, int ordinal) const;
 
   void assign(int ordinal, const Value& value);
   void addNew();

@@ -100,6 +100,10 @@ Value Recordset::Fields(std::string_view name) const {
   return cursor().field(cursor().ordinalOf(name));
 }
 
+void Recordset::appendField(std::string& text, int ordinal) const {
+  cursor().appendField(text, ordinal);
+}
+
 void Recordset::setField(int ordinal, const Value& value) {
   cursor().assign(ordinal, value);
 }

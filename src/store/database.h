@@ -90,6 +90,9 @@ class Recordset {
   /// (deleted), 3265 (no such column).
   Value Fields(int ordinal) const;
   Value Fields(std::string_view name) const;
+  /// Adds a column's text to the end of `text`, Null as nothing: for passes that join whole rows.
+  /// Raises what Fields raises.
+  void appendField(std::string& text, int ordinal) const;
 
   /// Assigns a column of the row begun by AddNew or Edit. A number is stored as its general text
   /// with a decimal point. Raises 3020 without AddNew or Edit, 3265. A flag takes flags and

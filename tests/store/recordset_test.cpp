@@ -171,6 +171,24 @@ TEST_P(RecordsetTest, StoresWhatIsAssigned) {
   EXPECT_EQ(failureOf([&] { dives.setField("Rep", Value::null()); }), InvalidUseOfNull);
 }
 
+TEST_P(RecordsetTest, AppendsAColumnsTextAsItStands) {
+  addDives(7, 7);
+  auto dives = open();
+  const auto appended = [&](int ordinal) {
+    std::string text = "<";
+    dives.appendField(text, ordinal);
+    return text;
+  };
+  EXPECT_EQ(appended(Feld::Nr), "<7");
+  EXPECT_EQ(appended(Feld::Grafik), "<");
+  dives.Edit();
+  dives.setField(Feld::Nr, "Zwölf");
+  EXPECT_EQ(appended(Feld::Nr), "<Zwölf");
+  dives.MoveNext();
+  EXPECT_EQ(failureOf([&] { appended(Feld::Nr); }), NoCurrentRecord);
+  EXPECT_EQ(failureOf([&] { appended(99); }), ItemNotFound);
+}
+
 TEST_P(RecordsetTest, ANewRowStartsBlankAndTheCurrentOneComesBack) {
   addDives(1, 2);
   auto dives = open();
