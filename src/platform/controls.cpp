@@ -113,10 +113,13 @@ void Button::setCaption(std::string caption) {
 }
 
 void Button::setDefault(bool isDefault) {
+  auto* before = form().default_;
   if (isDefault)
     form().default_ = this;
-  else if (form().default_ == this)
+  else if (before == this)
     form().default_ = nullptr;
+  if (before != nullptr && before != this) before->changed();
+  changed();
   form().notifyLook();
 }
 

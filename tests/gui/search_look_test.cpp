@@ -1,10 +1,12 @@
 #include <QListView>
 #include <QMdiSubWindow>
+#include <QPushButton>
 
 #include "dives/Form3.h"
 #include "gui/gui_test.h"
 #include "search/Form12.h"
 #include "search/Form19.h"
+#include "search/Form20.h"
 
 namespace nautrel {
 namespace {
@@ -48,6 +50,9 @@ TEST_F(SearchLook, RoadOfAHitIsTakenByMouseAndKeys) {
   EXPECT_EQ(found->geometry().right() + 1, dive->geometry().left());
   EXPECT_EQ(widget<QListView>(list.List1).currentIndex().row(), 3);
 
+  EXPECT_EQ(app->activeForm(), &list);
+  key(Qt::Key_Up);
+  EXPECT_EQ(widget<QLineEdit>(app->Form3().Text1).text(), "3");
   press(list.List1, 6);
   EXPECT_EQ(widget<QLineEdit>(app->Form3().Text1).text(), "7");
   key(Qt::Key_Down);
@@ -61,6 +66,28 @@ TEST_F(SearchLook, RoadOfAHitIsTakenByMouseAndKeys) {
   EXPECT_EQ(widget<QListView>(search.List1).currentIndex().row(), 3);
   key(Qt::Key_Down);
   EXPECT_EQ(search.Frame2.caption(), "Dive 5");
+}
+
+// Between the steps the screen is brought up to date, as it is while a long pass runs.
+TEST_F(SearchLook, ControlDisabledInADisabledWindowStaysSo) {
+  addDives(1, 3);
+  start();
+  click(app->MDIForm1().Menü3e);
+  auto& search = app->Form20();
+  const auto step = [&](auto&& action) {
+    app->handle(action);
+    settle();
+  };
+  step([&] { search.setEnabled(false); });
+  step([&] { search.Command1.setEnabled(false); });
+  EXPECT_FALSE(widget(search.Command4).isEnabled());
+  step([&] { search.setEnabled(true); });
+  step([&] { search.Command2.setEnabled(true); });
+  step([&] { search.Command2.setDefault(true); });
+  EXPECT_TRUE(widget(search.Command4).isEnabled());
+  EXPECT_FALSE(widget(search.Command1).isEnabled());
+  EXPECT_FALSE(widget<QPushButton>(search.Command1).isDefault());
+  EXPECT_TRUE(widget<QPushButton>(search.Command2).isDefault());
 }
 
 TEST_F(SearchLook, MinimizedSearchIsRestoredByItsOwnBar) {

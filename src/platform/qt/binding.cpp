@@ -39,7 +39,9 @@ void Binding::push() {
   dirty_ = false;
   if (!widget_) return;
   const QSignalBlocker quiet(widget_);
-  if (widget_->isEnabled() != control_.enabled()) widget_->setEnabled(control_.enabled());
+  // What the widget says of itself, whatever its window or frame says of all in it.
+  if (widget_->isEnabledTo(widget_->parentWidget()) != control_.enabled())
+    widget_->setEnabled(control_.enabled());
   if (widget_->isVisibleTo(widget_->parentWidget()) != control_.visible())
     widget_->setVisible(control_.visible());
   pushContent();

@@ -4,6 +4,7 @@
 #include <QLayout>
 #include <QMdiArea>
 
+#include "platform/program.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/forms.h"
 #include "platform/qt/icons.h"
@@ -136,15 +137,20 @@ void ChildWindow::giveSize(const QSize& size) {
     window_->setFixedSize(size);
 }
 
-// A fixed size would hold a minimized window open.
+// A fixed size would hold a minimized window open, and the toolkit brings to the front what it
+// minimizes.
+void ChildWindow::minimize() {
+  const auto* front = form().program().activeForm();
+  window_->setMinimumSize(0, 0);
+  window_->showMinimized();
+  if (front != nullptr && front != &form()) front->look()->activate();
+}
+
 void ChildWindow::pushState() {
   if (!form().visible()) return;
   const bool small = form().windowState() == WindowState::Minimized;
   if (small == window_->isMinimized()) return;
-  if (small) {
-    window_->setMinimumSize(0, 0);
-    return window_->showMinimized();
-  }
+  if (small) return minimize();
   window_->showNormal();
   giveSize({toPixels(form().Width()), toPixels(form().Height())});
   activate();

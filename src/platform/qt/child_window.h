@@ -26,6 +26,7 @@ class ChildWindow : public FormView {
 
  private:
   void giveSize(const QSize& size);
+  void minimize();
   void pushState();
 
   const bool sizable_;
