@@ -36,13 +36,12 @@ class PersonalInformation : public LogbookTest {
     return texts;
   }
   static void fill(Form7& form, const Texts& card) {
-    std::size_t i = 0;
+    auto text = card.begin();
     for (auto* box : boxes(form)) {
       if (box != nullptr)
-        type(*box, card[i]);
+        type(*box, *text++);
       else
-        type(form.Combo1, card[i]);
-      ++i;
+        type(form.Combo1, *text++);
     }
   }
 };
@@ -114,10 +113,7 @@ TEST_F(PersonalInformation, PrintsTheStoredCardOnYesAlone) {
 }
 
 TEST_F(PersonalInformation, ATableWithoutItsRowEndsTheProgramOnSaving) {
-  {
-    Workspace workspace;
-    workspace.OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset("Benutzer").Delete();
-  }
+  Workspace().OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset("Benutzer").Delete();
   auto& form = open();
   EXPECT_EQ(shown(form), Texts(16, ""));
   click(form.Command1);

@@ -4,6 +4,7 @@
 
 #include "platform/controls.h"
 #include "platform/program.h"
+#include "support/failure.h"
 #include "support/scripted_desktop.h"
 #include "support/user.h"
 
@@ -80,32 +81,17 @@ class FormTest : public ::testing::Test {
     window.log.clear();
     return window;
   }
-  template <class Action>
-  static int errorOf(Action&& action) {
-    try {
-      action();
-    } catch (const RunTimeError& error) {
-      return error.number;
-    }
-    return 0;
-  }
-
   ScriptedDesktop desktop{"/somewhere"};
   Scene run{desktop};
 };
 
-TEST_F(FormTest, ShowingGivesTheFocusToTheFirstControlInTabOrder) {
+TEST_F(FormTest, TheFocusMovesByLostFocusGotFocusClick) {
   auto& window = run.open();
   EXPECT_EQ(window.activeControl(), nullptr);
-  EXPECT_EQ(errorOf([&] { window.First.SetFocus(); }), InvalidCall) << "not shown yet";
+  EXPECT_EQ(failureOf([&] { window.First.SetFocus(); }), InvalidCall) << "not shown yet";
+  window.Show();
   window.Show();
   EXPECT_EQ(window.taken(), Texts{"+First"});
-  window.Show();
-  EXPECT_EQ(window.taken(), Texts{});
-}
-
-TEST_F(FormTest, TheFocusMovesByLostFocusGotFocusClick) {
-  auto& window = shown();
   click(window.Press);
   EXPECT_EQ(window.taken(), (Texts{"-First", "+Press", "press"}));
   press(window, Key::Tab);
@@ -115,18 +101,15 @@ TEST_F(FormTest, TheFocusMovesByLostFocusGotFocusClick) {
   EXPECT_EQ(window.taken(), Texts{"press"});
 }
 
-TEST_F(FormTest, TwoRulesThatKeepTheFocusDoNotChaseEachOther) {
+TEST_F(FormTest, ARuleMayKeepTheFocusOrSendItElsewhere) {
   auto& window = shown();
   window.rules[&window.First] = [&] { window.First.SetFocus(); };
   window.rules[&window.Second] = [&] { window.Second.SetFocus(); };
   click(window.Press);
   EXPECT_EQ(window.taken(), (Texts{"-First", "+First"})) << "the click is swallowed";
   focus(window.Second);
-  EXPECT_EQ(window.activeControl(), &window.First);
-}
-
-TEST_F(FormTest, ARuleMaySendTheFocusElsewhere) {
-  auto& window = shown();
+  EXPECT_EQ(window.activeControl(), &window.First) << "two such rules do not chase each other";
+  window.taken();
   window.rules[&window.First] = [&] { window.Check.SetFocus(); };
   focus(window.Second);
   EXPECT_EQ(window.taken(), (Texts{"-First", "+Check"}));
@@ -139,7 +122,7 @@ TEST_F(FormTest, DisablingOrHidingWhatHasTheFocusMovesItOn) {
   window.Second.setVisible(false);
   EXPECT_EQ(window.activeControl(), &window.Press);
   for (auto* control : {&window.First, &window.Second})
-    EXPECT_EQ(errorOf([&] { control->SetFocus(); }), InvalidCall);
+    EXPECT_EQ(failureOf([&] { control->SetFocus(); }), InvalidCall);
 }
 
 TEST_F(FormTest, APageBehindTakesNoFocusAndEscWorksFromEveryPage) {
@@ -195,18 +178,11 @@ TEST_F(FormTest, ListsRefuseWhatIsNotThere) {
   window.Lines.setListIndex(0);
   window.Lines.setListIndex(0);
   EXPECT_EQ(clicks, 1);
-  EXPECT_EQ(errorOf([&] { window.Lines.setListIndex(1); }), InvalidPropertyValue);
+  EXPECT_EQ(failureOf([&] { window.Lines.setListIndex(1); }), InvalidPropertyValue);
   EXPECT_EQ(window.Lines.List(7), "");
-  EXPECT_EQ(errorOf([&] { window.Choice.setText("c"); }), TextIsReadOnly);
+  EXPECT_EQ(failureOf([&] { window.Choice.setText("c"); }), TextIsReadOnly);
   window.Choice.setText("b");
   EXPECT_EQ(window.Choice.ListIndex(), 1);
-}
-
-TEST_F(FormTest, AWindowThatUnloadsItselfInItsLoadIsNeverSeen) {
-  run.onLoad = [](Window& window) { window.Unload(); };
-  run.handle([&] { run.open().Show(); });
-  EXPECT_FALSE(run.loaded(1));
-  EXPECT_EQ(run.activeForm(), nullptr);
 }
 
 TEST_F(FormTest, AnUnloadedWindowForgetsAndTheNextOneIsNew) {
@@ -219,6 +195,10 @@ TEST_F(FormTest, AnUnloadedWindowForgetsAndTheNextOneIsNew) {
     window.Unload();
     EXPECT_EQ(run.open().First.text(), "");
   });
+  run.onLoad = [](Window& window) { window.Unload(); };
+  run.handle([&] { run.open(2).Show(); });
+  EXPECT_FALSE(run.loaded(2));
+  EXPECT_EQ(run.activeForm(), nullptr);
 }
 
 TEST_F(FormTest, LoadAndUnloadAreRoots) {
@@ -249,22 +229,18 @@ TEST_F(FormTest, AfterTheFatalEndNothingRunsOn) {
   EXPECT_EQ(window.taken(), Texts{});
 }
 
-TEST_F(FormTest, ADisabledWindowTakesNoInput) {
-  auto& window = shown();
-  window.setEnabled(false);
-  type(window.Second, "x");
-  click(window.Check);
-  EXPECT_EQ(window.Second.text(), "");
-  EXPECT_FALSE(window.Check.on());
-}
-
-TEST_F(FormTest, ChangingTheWindowRaisesNoFocusEvent) {
+TEST_F(FormTest, ChangingTheWindowRaisesNoFocusEventAndADisabledOneTakesNoInput) {
   auto& one = shown(1);
   auto& two = shown(2);
   EXPECT_EQ(run.activeForm(), &two);
   one.Second.SetFocus();
   EXPECT_EQ(run.activeForm(), &one);
   EXPECT_EQ(two.taken(), Texts{});
+  one.setEnabled(false);
+  type(one.Second, "x");
+  click(one.Check);
+  EXPECT_EQ(one.Second.text(), "");
+  EXPECT_FALSE(one.Check.on());
 }
 
 }  // namespace

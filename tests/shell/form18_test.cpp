@@ -96,38 +96,32 @@ TEST_F(Preferences, WhatIsSavedComesBack) {
   EXPECT_FALSE(again.Command4.enabled());
 }
 
-struct Edit {
-  const char* what;
-  int page;
-  std::function<void(Form18&)> make;
-};
-
-class SaveChanges : public Preferences, public ::testing::WithParamInterface<Edit> {};
-
-TEST_P(SaveChanges, IsFreeAfterAnEdit) {
-  setting("Start", "Fenster") = GetParam().what == std::string("Max") ? "Ben" : "";
+TEST_F(Preferences, AnEditFreesSaveChanges) {
+  struct Edit {
+    const char* size;
+    int page;
+    std::function<void(Form18&)> make;
+  };
+  const Edit edits[] = {{"", 1, [](Form18& form) { choose(form.Combo1, 3); }},
+                        {"", 0, [](Form18& form) { type(form.Text1, "x"); }},
+                        {"", 0, [](Form18& form) { click(form.Command2); }},
+                        {"", 0, [](Form18& form) { form.Picture1.userClick(); }},
+                        {"Ben", 1, [](Form18& form) { click(form.Option1); }},
+                        {"", 1, [](Form18& form) { click(form.Option2); }}};
+  start();
+  desktop->answerColor(1);
   for (const auto* key : {"Breite", "Höhe", "Links", "Oben"}) setting("Start", key) = "9000";
-  auto& form = open();
-  ASSERT_FALSE(form.Command4.enabled());
-  choose(form.SSTab1, GetParam().page);
-  if (GetParam().what == std::string("color")) desktop->answerColor(1);
-  GetParam().make(form);
-  EXPECT_TRUE(form.Command4.enabled());
+  for (const auto& edit : edits) {
+    SCOPED_TRACE(&edit - edits);
+    setting("Start", "Fenster") = edit.size;
+    auto& form = reopen();
+    ASSERT_FALSE(form.Command4.enabled());
+    choose(form.SSTab1, edit.page);
+    edit.make(form);
+    EXPECT_TRUE(form.Command4.enabled());
+    close(form);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Edits, SaveChanges,
-    ::testing::Values(Edit{"window", 1, [](Form18& form) { choose(form.Combo1, 3); }},
-                      Edit{"path", 0, [](Form18& form) { type(form.Text1, "x"); }},
-                      Edit{"reset", 0, [](Form18& form) { click(form.Command2); }},
-                      Edit{"color", 0, [](Form18& form) { form.Picture1.userClick(); }},
-                      Edit{"Max", 1, [](Form18& form) { click(form.Option1); }},
-                      Edit{"Free size", 1, [](Form18& form) { click(form.Option2); }}),
-    [](const auto& edit) {
-      std::string name(edit.param.what);
-      std::erase(name, ' ');
-      return name;
-    });
 
 TEST_F(Preferences, ADialogThatIsCancelledChangesNothing) {
   auto& form = open();
@@ -139,70 +133,63 @@ TEST_F(Preferences, ADialogThatIsCancelledChangesNothing) {
   EXPECT_FALSE(form.Command4.enabled());
 }
 
-TEST_F(Preferences, TheSizeFollowsAPressAndTheMainWindow) {
+TEST_F(Preferences, TheSizeFollowsAPressAndTheMainWindowButNoArrowKey) {
   auto& form = openStartPage();
+  const auto expectSize = [&](const Texts& size) {
+    EXPECT_EQ(values(form), size);
+    EXPECT_EQ(sizeEnabled(form), size != Texts(4, "---"));
+  };
   frame().userResized(150, 300, 12000, 9000);
-  EXPECT_EQ(values(form), Texts(4, "---"));
+  expectSize(Texts(4, "---"));
   focus(form.Option1);
   press(form, Key::Down);
   EXPECT_TRUE(form.Option2.on());
-  EXPECT_EQ(values(form), Texts(4, "---"));
-  EXPECT_FALSE(sizeEnabled(form));
+  expectSize(Texts(4, "---"));
   press(form, Key::Space);
-  EXPECT_EQ(values(form), (Texts{"12000", "9000", "150", "300"}));
-  EXPECT_TRUE(sizeEnabled(form));
+  expectSize({"12000", "9000", "150", "300"});
   frame().userResized(165, 315, 12015, 9015);
-  EXPECT_EQ(values(form), (Texts{"12015", "9015", "165", "315"}));
+  expectSize({"12015", "9015", "165", "315"});
   press(form, Key::Up);
-  EXPECT_EQ(values(form), Texts(4, "---"));
-  EXPECT_FALSE(sizeEnabled(form));
-}
-
-TEST_F(Preferences, AnArrowKeyAloneSavesNoSizeUntilAResize) {
-  auto& form = openStartPage();
-  focus(form.Option1);
+  expectSize(Texts(4, "---"));
   press(form, Key::Down);
   frame().userResized(15, 30, 12000, 9000);
-  EXPECT_EQ(values(form), (Texts{"12000", "9000", "15", "30"}));
+  EXPECT_EQ(values(form), (Texts{"12000", "9000", "15", "30"})) << "a resize fills them too";
   close(form);
   EXPECT_FALSE(app->Modul1().EinstellungenOffen);
   frame().userResized(0, 0, 10000, 8000);
   EXPECT_FALSE(app->loaded(18));
 }
 
-struct CancelCase {
-  const char* color;
-  const char* grafic;
-  long colorAfter;
-  const char* pictureAfter;
-};
-
-class CancelPreview : public Preferences, public ::testing::WithParamInterface<CancelCase> {};
-
 // The picture of a path that is gone stays as it is, and so does any under a colour that is none.
-TEST_P(CancelPreview, PutsColorAndPictureBack) {
-  auto& form = open();
-  folder.write("new.bmp", "picture");
+TEST_F(Preferences, CancelPutsColorAndPictureBack) {
+  struct Case {
+    const char *color, *grafic;
+    long colorAfter;
+    const char* pictureAfter;
+  };
+  const auto newPicture = folder.write("new.bmp", "picture");
   folder.write("old.bmp", "picture");
-  desktop->answerColor(77);
-  form.Picture1.userClick();
-  EXPECT_EQ(frame().BackColor(), 77);
-  type(form.Text1, folder.file("new.bmp"));
-  click(form.Command4);
-  setting("Colors", "Main") = GetParam().color;
-  setting("Start", "Grafic") = folder.file(GetParam().grafic);
-  press(form, Key::Escape);
-  EXPECT_FALSE(app->loaded(18));
-  EXPECT_EQ(frame().BackColor(), GetParam().colorAfter);
-  EXPECT_EQ(pathOf(frame().picture()), folder.file(GetParam().pictureAfter));
+  start();
+  for (const auto& item :
+       {Case{"128", "old.bmp", 128, "old.bmp"}, Case{"", "old.bmp", kGrey, "new.bmp"},
+        Case{"red", "old.bmp", kGrey, "new.bmp"}, Case{"9999999999", "old.bmp", kGrey, "new.bmp"},
+        Case{"128", "gone.bmp", 128, "new.bmp"}}) {
+    SCOPED_TRACE(item.color);
+    desktop->settings.clear();
+    auto& form = reopen();
+    desktop->answerColor(77);
+    form.Picture1.userClick();
+    EXPECT_EQ(frame().BackColor(), 77);
+    type(form.Text1, newPicture);
+    click(form.Command4);
+    setting("Colors", "Main") = item.color;
+    setting("Start", "Grafic") = folder.file(item.grafic);
+    press(form, Key::Escape);
+    EXPECT_FALSE(app->loaded(18));
+    EXPECT_EQ(frame().BackColor(), item.colorAfter);
+    EXPECT_EQ(pathOf(frame().picture()), folder.file(item.pictureAfter));
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Settings, CancelPreview,
-                         ::testing::Values(CancelCase{"128", "old.bmp", 128, "old.bmp"},
-                                           CancelCase{"", "old.bmp", kGrey, "new.bmp"},
-                                           CancelCase{"red", "old.bmp", kGrey, "new.bmp"},
-                                           CancelCase{"9999999999", "old.bmp", kGrey, "new.bmp"},
-                                           CancelCase{"128", "gone.bmp", 128, "new.bmp"}));
 
 TEST_F(Preferences, APathThatCannotBeLoadedEndsTheProgramAfterTheSettings) {
   auto& form = open();

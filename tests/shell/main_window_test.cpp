@@ -1,3 +1,5 @@
+#include <fstream>
+
 #include "dives/Form2.h"
 #include "dives/Form3.h"
 #include "shell/Form1.h"
@@ -33,7 +35,7 @@ TEST_F(MainWindow, TheSplashStandsInTheMiddleAndGivesWayToTheMainWindow) {
 
 struct CountCase {
   Texts numbers;
-  bool warned;
+  std::vector<Shown> messages;
   const char* status;
 };
 
@@ -42,20 +44,17 @@ class Count : public MainWindow, public ::testing::WithParamInterface<CountCase>
 TEST_P(Count, IsHeldAgainstTheRangeAtTheStart) {
   for (const auto& number : GetParam().numbers) add({{"Nr", number}});
   start();
-  EXPECT_EQ(desktop->messages(),
-            GetParam().warned ? std::vector<Shown>{{kNotSorted}} : std::vector<Shown>{});
-  EXPECT_EQ(status(), GetParam().status);
+  EXPECT_EQ(desktop->messages(), GetParam().messages);
+  EXPECT_EQ(status(), std::string("<Logbuch.mdb> Dives Logged: ") + GetParam().status);
   EXPECT_EQ(frame().Menü2b.enabled(), !GetParam().numbers.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Logbooks, Count,
-    ::testing::Values(CountCase{{}, false, "<Logbuch.mdb> Dives Logged: 0"},
-                      CountCase{{"1", "2", "3"}, false, "<Logbuch.mdb> Dives Logged: 3 (1 to 3)"},
-                      CountCase{{"5", "6"}, false, "<Logbuch.mdb> Dives Logged: 2 (5 to 6)"},
-                      CountCase{{"1", "3"}, true, "<Logbuch.mdb> Dives Logged: 2 (1 to 3)"},
-                      // A gap and a double that cancel each other pass.
-                      CountCase{{"1", "1", "3"}, false, "<Logbuch.mdb> Dives Logged: 3 (1 to 3)"}));
+INSTANTIATE_TEST_SUITE_P(Logbooks, Count,
+                         ::testing::Values(CountCase{{}, {}, "0"},
+                                           CountCase{{"5", "6"}, {}, "2 (5 to 6)"},
+                                           CountCase{{"1", "3"}, {{kNotSorted}}, "2 (1 to 3)"},
+                                           // A gap and a double that cancel each other pass.
+                                           CountCase{{"1", "1", "3"}, {}, "3 (1 to 3)"}));
 
 TEST_F(MainWindow, AnEmptyLogbookLocksExactlyWhatNeedsDives) {
   start();
@@ -76,15 +75,7 @@ TEST_F(MainWindow, AnEmptyLogbookLocksExactlyWhatNeedsDives) {
 }
 
 TEST_F(MainWindow, AFullLogbookRefusesInTwoLanguages) {
-  {
-    Workspace workspace;
-    auto rows = workspace.OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset("Logbuch");
-    for (int number = 1; number <= 9998; ++number) {
-      rows.AddNew();
-      rows.setField("Nr", std::to_string(number));
-      rows.Update();
-    }
-  }
+  addDives(1, 9998);
   start();
   click(frame().Menü2a);
   EXPECT_TRUE(app->loaded(2));
@@ -115,42 +106,24 @@ TEST_F(MainWindow, TheWindowsOfTheExclusiveSetCloseEachOther) {
   EXPECT_EQ(desktop->texts(), Texts{});
 }
 
-TEST_F(MainWindow, ASettingOpensItsWindowButNeverOnAnEmptyLogbook) {
-  desktop->settings[{"Start", "Window"}] = "Insert dive";
-  start();
-  EXPECT_FALSE(app->loaded(2));
-  addDives(1, 1);
-  restart();
-  EXPECT_TRUE(app->loaded(2));
-  desktop->settings[{"Start", "Window"}] = "insert dive";
-  restart();
-  EXPECT_FALSE(app->loaded(2));
-}
-
-struct GroundCase {
-  const char* color;
-  bool withPicture;
-  long shown;
-  bool pictureShown;
-};
-
-class GroundSettings : public MainWindow, public ::testing::WithParamInterface<GroundCase> {};
-
-TEST_P(GroundSettings, ColourAndPictureAreTakenOver) {
+TEST_F(MainWindow, TakesColourAndPictureFromTheSettings) {
+  struct Case {
+    const char* color;
+    std::string grafic;
+    long shown;
+    std::string picture;
+  };
   const auto picture = folder.write("reef.bmp", "picture");
-  if (*GetParam().color != '\0') desktop->settings[{"Colors", "Main"}] = GetParam().color;
-  desktop->settings[{"Start", "Grafic"}] =
-      GetParam().withPicture ? picture : folder.file("gone.bmp");
-  start();
-  EXPECT_EQ(frame().BackColor(), GetParam().shown);
-  EXPECT_EQ(pathOf(frame().picture()), GetParam().pictureShown ? picture : "");
+  for (const auto& item :
+       {Case{"255", picture, 255, picture}, Case{"255", folder.file("gone.bmp"), 255, ""},
+        Case{"", picture, 12632256, ""}, Case{"red", picture, 12632256, ""}}) {
+    SCOPED_TRACE(item.color);
+    desktop->settings = {{{"Colors", "Main"}, item.color}, {{"Start", "Grafic"}, item.grafic}};
+    restart();
+    EXPECT_EQ(frame().BackColor(), item.shown);
+    EXPECT_EQ(pathOf(frame().picture()), item.picture);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Settings, GroundSettings,
-                         ::testing::Values(GroundCase{"255", true, 255, true},
-                                           GroundCase{"255", false, 255, false},
-                                           GroundCase{"", true, 12632256, false},
-                                           GroundCase{"red", true, 12632256, false}));
 
 TEST_F(MainWindow, AFreeSizeIsTakenFromTheSettingsAndRubbishInItEndsTheProgram) {
   desktop->settings = {{{"Start", "Fenster"}, "Ben"},
@@ -189,26 +162,17 @@ TEST_F(MainWindow, HelpPrinterAndEndGoThroughTheDoor) {
   EXPECT_TRUE(app->loaded(2)) << "nothing runs after the end";
 }
 
-struct FaultCase {
-  const char* content;  // null: no file at all
-  int number;
-};
-
-class Fault : public MainWindow, public ::testing::WithParamInterface<FaultCase> {};
-
-TEST_P(Fault, OfTheFileEndsTheProgramWithItsMessageAndNothingIsWritten) {
+TEST_F(MainWindow, AFaultOfTheFileEndsTheProgramAndNothingIsWritten) {
   const auto path = folder.file("Logbuch.mdb");
-  remove(path.c_str());
-  if (GetParam().content != nullptr) folder.write("Logbuch.mdb", GetParam().content);
-  start();
-  EXPECT_EQ(desktop->failure()->number, GetParam().number);
-  EXPECT_EQ(readFile(path), GetParam().content == nullptr ? "" : GetParam().content);
+  for (const std::string content : {"", "This is a letter and no logbook. ........"}) {
+    remove(path.c_str());
+    if (!content.empty()) folder.write("Logbuch.mdb", content);
+    restart();
+    EXPECT_EQ(desktop->failure()->number, content.empty() ? DatabaseNotFound : UnrecognizedFormat);
+    EXPECT_EQ(std::ifstream(path).good(), !content.empty());
+    EXPECT_EQ(readFile(path), content);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Files, Fault,
-                         ::testing::Values(FaultCase{nullptr, DatabaseNotFound},
-                                           FaultCase{"This is a letter and no logbook. ........",
-                                                     UnrecognizedFormat}));
 
 TEST_F(MainWindow, AFailureInsideALoadEndsTheProgramWhateverRuleTheCommandRunsUnder) {
   addDives(1, 2);

@@ -8,35 +8,10 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-struct StartCase {
-  const char* setting;
-  const char* window;  // null: none
-};
-
-constexpr StartCase kStarts[] = {{"<no>", nullptr},
-                                 {"Print dive-list", "Form9"},
-                                 {"Personal information", "Form7"},
-                                 {"Dive equipment", "Form15"},
-                                 {"Sort logbook", "Form8"},
-                                 {"Insert dive", "Form2"},
-                                 {"Edit dive", "Form4"},
-                                 {"Delete dive", "Form5"},
-                                 {"View logbook", "Form3"},
-                                 {"Logbook table", "Form13"},
-                                 {"Search a word", "Form12"},
-                                 {"Search a number", "Form14"},
-                                 {"Full search", "Form20"},
-                                 {"Statistic", "Form6"},
-                                 {"Graph years", "Form10"},
-                                 {"Graph month", "Form11"},
-                                 {"Unit calculations", "Form21"},
-                                 {"Calculations", "Form22"}};
-
-class StartWindow : public LogbookTest, public ::testing::WithParamInterface<StartCase> {
+class StartWindow : public LogbookTest {
  protected:
   /// Chooses the window in the preferences, as a person does, and begins the next run.
   void chooseAndRestart(const std::string& setting) {
-    start();
     click(app->MDIForm1().Menü1g);
     auto& preferences = app->Form18();
     const auto& lines = preferences.Combo1.lines();
@@ -54,20 +29,38 @@ class StartWindow : public LogbookTest, public ::testing::WithParamInterface<Sta
   }
 };
 
-TEST_P(StartWindow, OpensAsThePreferencesSay) {
+TEST_F(StartWindow, OpensAsThePreferencesSay) {
+  const std::pair<const char*, const char*> starts[] = {
+      {"Print dive-list", "Form9"},  {"Personal information", "Form7"},
+      {"Dive equipment", "Form15"},  {"Sort logbook", "Form8"},
+      {"Insert dive", "Form2"},      {"Edit dive", "Form4"},
+      {"Delete dive", "Form5"},      {"View logbook", "Form3"},
+      {"Logbook table", "Form13"},   {"Search a word", "Form12"},
+      {"Search a number", "Form14"}, {"Full search", "Form20"},
+      {"Statistic", "Form6"},        {"Graph years", "Form10"},
+      {"Graph month", "Form11"},     {"Unit calculations", "Form21"},
+      {"Calculations", "Form22"}};
   addDives(1, 3);
-  chooseAndRestart(GetParam().setting);
-  EXPECT_EQ(desktop->settings.at({"Start", "Window"}), GetParam().setting);
-  Texts expected{"MDIForm1"};
-  if (GetParam().window != nullptr) expected.push_back(GetParam().window);
-  EXPECT_EQ(openWindows(), expected);
+  for (const auto& [setting, window] : starts) {
+    SCOPED_TRACE(setting);
+    desktop->settings.clear();
+    restart();
+    chooseAndRestart(setting);
+    EXPECT_EQ(desktop->settings.at({"Start", "Window"}), setting);
+    EXPECT_EQ(openWindows(), (Texts{"MDIForm1", window}));
+  }
+  chooseAndRestart("<no>");
+  EXPECT_EQ(openWindows(), Texts{"MDIForm1"});
+  desktop->settings[{"Start", "Window"}] = "insert dive";
+  restart();
+  EXPECT_EQ(openWindows(), Texts{"MDIForm1"}) << "no name of a window";
 }
 
-INSTANTIATE_TEST_SUITE_P(Settings, StartWindow, ::testing::ValuesIn(kStarts),
-                         [](const auto& start) {
-                           return std::string(start.param.window != nullptr ? start.param.window
-                                                                            : "None");
-                         });
+TEST_F(StartWindow, StaysClosedOnAnEmptyLogbook) {
+  desktop->settings[{"Start", "Window"}] = "Insert dive";
+  start();
+  EXPECT_EQ(openWindows(), Texts{"MDIForm1"});
+}
 
 }  // namespace
 }  // namespace nautrel

@@ -1,6 +1,3 @@
-#include <fstream>
-#include <iterator>
-
 #include "store/store_test.h"
 
 namespace nautrel {
@@ -16,59 +13,43 @@ class FaultsTest : public StoreTest {
   }
 };
 
-std::string contents(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-TEST_F(FaultsTest, OpeningMakesNothing) {
-  const auto missing = folder / "Nothing.mdb";
-  EXPECT_EQ(openingFails(missing.string()), DatabaseNotFound);
-  EXPECT_FALSE(fs::exists(missing));
-  EXPECT_EQ(openingFails((folder / "nowhere" / "Logbuch.mdb").string()), PathNotValid);
-  EXPECT_FALSE(fs::exists(folder / "nowhere"));
-  EXPECT_EQ(openingFails(folder.string()), CannotOpenFile);
+TEST_F(FaultsTest, OpeningMakesNothingAndNamesTheFile) {
+  const auto missing = home.file("Nothing.mdb");
+  try {
+    workspace.OpenDatabase(missing);
+    FAIL() << "it opens";
+  } catch (const RunTimeError& failure) {
+    EXPECT_EQ(failure.number, DatabaseNotFound);
+    EXPECT_EQ(failure.text, "Couldn't find file '" + missing + "'.");
+  }
+  EXPECT_EQ(openingFails(home.file("nowhere/Logbuch.mdb")), PathNotValid);
+  EXPECT_EQ(openingFails(home.path()), CannotOpenFile);
+  EXPECT_FALSE(fs::exists(missing) || fs::exists(folder / "nowhere"));
 }
 
 TEST_F(FaultsTest, AFileThatIsNoLogbookStaysAsItIs) {
-  const std::string cases[] = {"", "Dear diver", std::string(20'000, 'x'),
-                               contents(path).substr(0, 50)};
-  for (const auto& text : cases) {
-    SCOPED_TRACE(text.substr(0, 10));
-    const auto file = folder / "other.mdb";
-    std::ofstream(file, std::ios::binary) << text;
-    EXPECT_EQ(openingFails(file.string()), UnrecognizedFormat);
-    EXPECT_EQ(contents(file), text);
+  addDives(1, 500);
+  workspace.settle();
+  auto damaged = readFile(path);
+  std::fill(damaged.begin() + 4096, damaged.end(), '\xA5');
+  for (const auto& text : {std::string(), std::string("Dear diver"), std::string(20'000, 'x'),
+                           damaged.substr(0, 50), damaged}) {
+    SCOPED_TRACE(text.size());
+    const auto file = home.write("other.mdb", text);
+    EXPECT_EQ(openingFails(file), UnrecognizedFormat);
+    EXPECT_EQ(readFile(file), text);
   }
 }
 
-TEST_F(FaultsTest, ADamagedLogbookIsNoLogbook) {
-  addDives(1, 500);
-  workspace.settle();
-  auto bytes = contents(path);
-  std::fill(bytes.begin() + 4096, bytes.end(), '\xA5');
-  std::ofstream(path, std::ios::binary) << bytes;
-  EXPECT_EQ(openingFails(path), UnrecognizedFormat);
-}
-
-TEST_F(FaultsTest, MessagesNameTheFileAndTheTable) {
-  const auto messageOf = [](auto&& action) -> std::string {
-    try {
-      action();
-    } catch (const RunTimeError& failure) {
-      return failure.text;
-    }
-    return {};
-  };
-  const auto missing = (folder / "Nothing.mdb").string();
-  EXPECT_EQ(messageOf([&] { workspace.OpenDatabase(missing); }),
-            "Couldn't find file '" + missing + "'.");
+TEST_F(FaultsTest, ATableOrAColumnThatIsMissingFailsWhereItIsRead) {
   otherProgram("DROP TABLE Statistik");
-  EXPECT_EQ(messageOf([&] { table(Tabelle::Statistik); }),
-            "The database engine cannot find the input table or query 'Statistik'.");
-}
-
-TEST_F(FaultsTest, ATableWithoutAColumnFailsWhereItIsRead) {
+  try {
+    table(Tabelle::Statistik);
+    FAIL() << "it opens";
+  } catch (const RunTimeError& failure) {
+    EXPECT_EQ(failure.text,
+              "The database engine cannot find the input table or query 'Statistik'.");
+  }
   otherProgram("ALTER TABLE Logbuch DROP COLUMN Grafik");
   addDives(1, 1);
   auto dives = table();

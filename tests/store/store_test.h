@@ -4,26 +4,15 @@
 #include <sqlite3.h>
 
 #include <filesystem>
-#include <random>
 #include <string>
 
-#include "platform/errors.h"
 #include "store/contract.h"
 #include "store/database.h"
 #include "store/delivered.h"
+#include "support/failure.h"
+#include "support/logbook.h"
 
 namespace nautrel {
-
-/// The number of the failure that a statement raises; 0 if it raises none.
-template <class Action>
-int failureOf(Action&& action) {
-  try {
-    action();
-  } catch (const RunTimeError& failure) {
-    return failure.number;
-  }
-  return 0;
-}
 
 /// A connection as another program would hold it.
 class OtherProgram {
@@ -58,17 +47,7 @@ class OtherProgram {
 /// A fresh folder with a delivered logbook in it.
 class StoreTest : public testing::Test {
  protected:
-  StoreTest()
-      : folder(std::filesystem::temp_directory_path() /
-               ("nautrel-store-" + std::to_string(std::random_device{}()))) {
-    std::filesystem::create_directories(folder);
-    path = (folder / kLogbookFile).string();
-    createDeliveredLogbook(path);
-  }
-  ~StoreTest() override {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
-  }
+  StoreTest() { createDeliveredLogbook(path); }
 
   Recordset table(std::string_view name = Tabelle::Logbuch) {
     return workspace.OpenDatabase(path).OpenRecordset(name);
@@ -89,8 +68,9 @@ class StoreTest : public testing::Test {
   static std::string number(const Recordset& dives) { return dives.Fields(Feld::Nr).joined({}); }
   std::string numbers() { return otherProgram("SELECT Nr FROM Logbuch ORDER BY rowid"); }
 
-  std::filesystem::path folder;
-  std::string path;
+  TemporaryFolder home;
+  std::filesystem::path folder = home.path();
+  std::string path = home.file(std::string(kLogbookFile));
   Workspace workspace;
 };
 

@@ -12,6 +12,16 @@
 namespace nautrel {
 namespace fs = std::filesystem;
 
+namespace {
+
+void append(Recordset& rows, const Dive& row) {
+  rows.AddNew();
+  for (const auto& [name, value] : row) rows.setField(name, value);
+  rows.Update();
+}
+
+}  // namespace
+
 TemporaryFolder::TemporaryFolder() {
   static std::atomic<unsigned> count{std::random_device{}()};
   fs::path path;
@@ -73,16 +83,16 @@ void LogbookTest::restart() {
   start();
 }
 
-void LogbookTest::add(const Dive& dive) {
+void LogbookTest::add(const Dive& dive, const std::string& table) {
   Workspace workspace;
-  auto rows = workspace.OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset("Logbuch");
-  rows.AddNew();
-  for (const auto& [name, value] : dive) rows.setField(name, value);
-  rows.Update();
+  auto rows = workspace.OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset(table);
+  append(rows, dive);
 }
 
 void LogbookTest::addDives(int first, int last) {
-  for (int number = first; number <= last; ++number) add(someDive(number));
+  Workspace workspace;
+  auto rows = workspace.OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset("Logbuch");
+  for (int number = first; number <= last; ++number) append(rows, someDive(number));
 }
 
 std::vector<std::vector<std::string>> LogbookTest::rows(const std::string& table,

@@ -51,7 +51,8 @@ class LogbookTest : public ::testing::Test {
   /// Ends this run of the program and begins another over the same file.
   void restart();
 
-  void add(const Dive& dive);
+  /// Appends a row of the dives, or of another table by its columns.
+  void add(const Dive& dive, const std::string& table = "Logbuch");
   /// Dives first..last, made by someDive().
   void addDives(int first, int last);
   /// All rows as text, NULL as "NULL", flags as "Yes" and "No"; the named columns only.
