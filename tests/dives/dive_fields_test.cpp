@@ -1,4 +1,5 @@
 #include "dives/Form2.h"
+#include "dives/Form4.h"
 #include "support/logbook.h"
 
 namespace nautrel {
@@ -9,64 +10,52 @@ using Texts = std::vector<std::string>;
 class DiveFields : public LogbookTest {
  protected:
   Form2& open() {
-    start();
-    click(app->MDIForm1().Menü2a);
+    startAt(&MDIForm1::Menü2a);
     return app->Form2();
   }
 };
-
-struct LeavingCase {
-  TextBox DiveEntryForm::*box;
-  const char* typed;
-  const char* left;
-  const char* message;  // null: none, and the focus goes on
-};
-
-class LeavingABox : public DiveFields, public ::testing::WithParamInterface<LeavingCase> {};
-
-TEST_P(LeavingABox, PadsOrComplains) {
-  auto& form = open();
-  auto& box = form.*GetParam().box;
-  paste(box, GetParam().typed);
-  focus(box);
-  focus(form.Text2);
-  EXPECT_EQ(box.text(), GetParam().left);
-  if (GetParam().message == nullptr) {
-    EXPECT_EQ(desktop->texts(), Texts{});
-    EXPECT_EQ(form.activeControl(), &form.Text2);
-  } else {
-    const auto texts = desktop->texts();
-    ASSERT_FALSE(texts.empty());
-    EXPECT_EQ(texts.back(), GetParam().message);
-    EXPECT_EQ(form.activeControl(), &box);
-  }
-}
 
 constexpr const char* kDay = "Day is not valid";
 constexpr const char* kMonth = "Month is not valid";
 constexpr const char* kYear = "Please enter the year with 4 digits (e.g. 1999)";
 
-INSTANTIATE_TEST_SUITE_P(
-    Boxes, LeavingABox,
-    ::testing::Values(LeavingCase{&DiveEntryForm::Text5, "7", "07", nullptr},
-                      LeavingCase{&DiveEntryForm::Text5, "09", "09", nullptr},
-                      LeavingCase{&DiveEntryForm::Text5, "", "", nullptr},
-                      LeavingCase{&DiveEntryForm::Text5, "31", "31", nullptr},
-                      LeavingCase{&DiveEntryForm::Text5, "32", "32", kDay},
-                      LeavingCase{&DiveEntryForm::Text5, "0", "0", kDay},
-                      LeavingCase{&DiveEntryForm::Text5, "-1", "-1", kDay},
-                      LeavingCase{&DiveEntryForm::Text5, "ab", "ab", kDay},
-                      LeavingCase{&DiveEntryForm::Text6, "9", "09", nullptr},
-                      LeavingCase{&DiveEntryForm::Text6, "13", "13", kMonth},
-                      LeavingCase{&DiveEntryForm::Text6, "ab", "ab", kMonth},
-                      LeavingCase{&DiveEntryForm::Text7, "999", "999", kYear},
-                      LeavingCase{&DiveEntryForm::Text7, "ab", "ab", kYear},
-                      LeavingCase{&DiveEntryForm::Text7, "1000", "1000", nullptr},
-                      LeavingCase{&DiveEntryForm::Text7, "", "", nullptr},
-                      LeavingCase{&DiveEntryForm::Text9, "180", "180", nullptr},
-                      LeavingCase{&DiveEntryForm::Text10, "330", "330", nullptr},
-                      LeavingCase{&DiveEntryForm::Text10, "030", "30", nullptr},
-                      LeavingCase{&DiveEntryForm::Text10, "1.50", "1.5", nullptr}));
+TEST_F(DiveFields, LeavingABoxPadsOrComplains) {
+  auto& form = open();
+  const struct {
+    TextBox* box;
+    const char *typed, *left;
+    const char* message = nullptr;  // none, and the focus goes on
+  } cases[] = {{&form.Text5, "7", "07"},
+               {&form.Text5, "09", "09"},
+               {&form.Text5, "", ""},
+               {&form.Text5, "31", "31"},
+               {&form.Text5, "32", "32", kDay},
+               {&form.Text5, "0", "0", kDay},
+               {&form.Text5, "-1", "-1", kDay},
+               {&form.Text5, "ab", "ab", kDay},
+               {&form.Text6, "9", "09"},
+               {&form.Text6, "13", "13", kMonth},
+               {&form.Text6, "ab", "ab", kMonth},
+               {&form.Text7, "999", "999", kYear},
+               {&form.Text7, "ab", "ab", kYear},
+               {&form.Text7, "1000", "1000"},
+               {&form.Text7, "", ""},
+               {&form.Text9, "180", "180"},
+               {&form.Text10, "330", "330"},
+               {&form.Text10, "030", "30"},
+               {&form.Text10, "1.50", "1.5"}};
+  for (const auto& [box, typed, left, message] : cases) {
+    SCOPED_TRACE(box->name() + " " + typed);
+    paste(*box, typed);
+    focus(*box);
+    desktop->messages();
+    focus(form.Text2);
+    EXPECT_EQ(box->text(), left);
+    EXPECT_EQ(desktop->texts(), message ? Texts{message} : Texts{});
+    EXPECT_EQ(form.activeControl(), message ? box : &form.Text2);
+    clear(*box);
+  }
+}
 
 TEST_F(DiveFields, TheFocusIsBackBeforeTheDayComplainsAndAfterTheYearDoes) {
   auto& form = open();
@@ -96,28 +85,21 @@ TEST_F(DiveFields, TwoDigitsJumpOnThroughTheDate) {
   EXPECT_EQ(form.Text7.text(), "1999");
 }
 
-struct TypingCase {
-  const char* typed;
-  const char* time;
-  const char* depth;
-};
-
-class TypingANumber : public DiveFields, public ::testing::WithParamInterface<TypingCase> {};
-
-TEST_P(TypingANumber, KeepsOrEmptiesTheBox) {
+TEST_F(DiveFields, TypingANumberKeepsOrEmptiesTheBox) {
   auto& form = open();
-  type(form.Text9, GetParam().typed);
-  type(form.Text10, GetParam().typed);
-  EXPECT_EQ(form.Text9.text(), GetParam().time);
-  EXPECT_EQ(form.Text10.text(), GetParam().depth);
+  const struct {
+    const char *typed, *time, *depth;
+  } cases[] = {{"45", "45", "45"}, {"0", "0", "0"},  {"007", "7", "007"}, {"1.5", "15", "1.5"},
+               {"12a", "", ""},    {"-3", "3", "3"}, {"4a56", "56", "56"}};
+  for (const auto& [typed, time, depth] : cases) {
+    clear(form.Text9);
+    type(form.Text9, typed);
+    EXPECT_EQ(form.Text9.text(), time);
+    clear(form.Text10);
+    type(form.Text10, typed);
+    EXPECT_EQ(form.Text10.text(), depth);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Texts, TypingANumber,
-                         ::testing::Values(TypingCase{"45", "45", "45"}, TypingCase{"0", "0", "0"},
-                                           TypingCase{"007", "7", "007"},
-                                           TypingCase{"1.5", "15", "1.5"},
-                                           TypingCase{"12a", "", ""}, TypingCase{"-3", "3", "3"},
-                                           TypingCase{"4a56", "56", "56"}));
 
 TEST_F(DiveFields, PastedHalvesGoToTheEvenNeighbourInTheLocale) {
   desktop->places = commaLocale();
@@ -147,30 +129,6 @@ TEST_F(DiveFields, DoubtfulValuesAskAndNoReturnsTheFocus) {
   EXPECT_FALSE(form.Check2.on());
 }
 
-TEST_F(DiveFields, ARuleThatTakesTheFocusBackSwallowsTheClick) {
-  auto& form = open();
-  type(form.Text5, "0");
-  click(form.Command4);
-  EXPECT_EQ(desktop->texts(), Texts{kDay});
-  EXPECT_EQ(form.Text5.text(), "0");
-  press(form, Key::Escape);
-  EXPECT_EQ(desktop->texts(), Texts{});
-  EXPECT_FALSE(app->loaded(2));
-}
-
-TEST_F(DiveFields, ADoubleClickClearsAnOption) {
-  auto& form = open();
-  choose(form.SSTab1, 2);
-  click(form.Option1);
-  click(form.Option2);
-  EXPECT_FALSE(form.Option1.on());
-  doubleClick(form.Option2);
-  doubleClick(form.Option1);
-  EXPECT_FALSE(form.Option1.on() || form.Option2.on());
-  click(form.Option3);
-  EXPECT_TRUE(form.Option3.on());
-}
-
 TEST_F(DiveFields, EnterMakesALineInTheCommentsAloneAndTheMarkerIsSet) {
   auto& form = open();
   choose(form.SSTab1, 1);
@@ -187,9 +145,56 @@ TEST_F(DiveFields, ABoxTakesNoMoreThanItHolds) {
   auto& form = open();
   paste(form.Text2, "Äußere Hebriden, Schottland");
   EXPECT_EQ(form.Text2.text(), "Äußere Hebriden, Sch");
-  form.Text2.userSelect(0, 0);
-  typeOn(form, "x");
-  EXPECT_EQ(form.Text2.text(), "Äußere Hebriden, Sch");
+}
+
+// The edited row begins with other marks than those that are set, the inserted one with none.
+TEST_F(DiveFields, EveryBoxAndMarkReachesItsColumnFromEitherWindow) {
+  using Fields = DiveEntryForm;
+  const auto path = std::string(300, 'x');
+  const struct {
+    int page;
+    TextBox Fields::*box;
+    std::string name, text;
+  } entries[] = {{0, &Fields::Text2, "Land", "Egypt"},   {0, &Fields::Text3, "Ort", "Dahab"},
+                 {0, &Fields::Text4, "Platz", "Canyon"}, {0, &Fields::Text5, "Tag", "31"},
+                 {0, &Fields::Text6, "Monat", "12"},     {0, &Fields::Text7, "Jahr", "1999"},
+                 {0, &Fields::Text8, "Buddy", "Anna"},   {0, &Fields::Text9, "Zeit", "61"},
+                 {0, &Fields::Text10, "Tiefe", "99.5"},  {1, &Fields::Text11, "Lang", "Hai"},
+                 {2, &Fields::Text17, "Liter", "100"},   {2, &Fields::Text13, "Bars", "2900"},
+                 {2, &Fields::Text18, "Bare", "700"},    {2, &Fields::Text14, "Wetter", "rain"},
+                 {2, &Fields::Text15, "Anzug", "dry"},   {2, &Fields::Text16, "Höhe", "300 ft"},
+                 {2, &Fields::Text19, "Blei", "9"},      {3, &Fields::Text21, "Grafik", "hai.jpg"}};
+  const auto enter = [&](DiveEntryForm& form) {
+    for (const auto& [page, box, name, text] : entries) {
+      choose(form.SSTab1, page);
+      type(form.*box, text);
+    }
+    choose(form.SSTab1, 2);
+    for (auto* option : {&form.Option1, &form.Option3, &form.Option5, &form.Option9})
+      click(*option);
+    click(form.Check6);
+    click(form.Check7);
+  };
+  auto dive = someDive(1);
+  for (const auto* mark : {"Süß", "Boot", "Stahl", "Sichtm", "Deco"}) dive[mark] = true;
+  add(dive);
+  enter(open());
+  click(app->Form2().Command2);
+  EXPECT_FALSE(app->loaded(2));
+  click(app->MDIForm1().Menü2b);
+  enter(app->Form4());
+  choose(app->Form4().SSTab1, 3);
+  paste(app->Form4().Text21, path);
+  click(app->Form4().Command2);
+  EXPECT_FALSE(app->loaded(4));
+
+  for (const auto& [page, box, name, text] : entries)
+    EXPECT_EQ(column(name), (Texts{name == "Grafik" ? path : text, text}));
+  EXPECT_EQ(rows("Logbuch", {"Salz", "Süß", "Ufer", "Boot", "Alu", "Stahl", "Sichtg", "Sichtm",
+                             "Sichts", "Deco", "Rep"}),
+            (std::vector<Texts>{
+                {"Yes", "No", "Yes", "No", "Yes", "No", "No", "No", "Yes", "No", "Yes"},
+                {"Yes", "No", "Yes", "No", "Yes", "No", "No", "No", "Yes", "Yes", "Yes"}}));
 }
 
 }  // namespace

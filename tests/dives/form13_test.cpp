@@ -11,8 +11,7 @@ using Texts = std::vector<std::string>;
 class LogbookTable : public LogbookTest {
  protected:
   Form13& open() {
-    start();
-    click(app->MDIForm1().Menü3d);
+    startAt(&MDIForm1::Menü3d);
     return app->Form13();
   }
 };
@@ -51,12 +50,7 @@ TEST_F(LogbookTable, LookingAtItMovesNoRow) {
 TEST_F(LogbookTable, ARowThatIsGoneIsEmptyAndTheNextOneIsRead) {
   addDives(1, 3);
   auto& grid = open().MSFlexGrid1;
-  {
-    Workspace other;
-    auto dives = other.OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset("Logbuch");
-    dives.MoveNext();
-    dives.Delete();
-  }
+  deleteElsewhere("Logbuch", 1);
   EXPECT_EQ(grid.row(1)[Feld::Ort], "");
   EXPECT_EQ(grid.row(2)[Feld::Ort], "Ort 3");
 }

@@ -10,20 +10,15 @@ using Texts = std::vector<std::string>;
 class InsertDive : public LogbookTest {
  protected:
   Form2& open() {
-    start();
-    click(app->MDIForm1().Menü2a);
+    startAt(&MDIForm1::Menü2a);
     return app->Form2();
   }
   static void fill(Form2& form) {
-    type(form.Text2, "Egypt");
-    type(form.Text3, "Hurghada");
-    type(form.Text4, "Giftun");
-    type(form.Text5, "05");
-    type(form.Text6, "03");
-    type(form.Text7, "2001");
-    type(form.Text8, "Anna");
-    type(form.Text9, "45");
-    type(form.Text10, "60");
+    const std::pair<TextBox*, const char*> entries[] = {
+        {&form.Text2, "Egypt"}, {&form.Text3, "Hurghada"}, {&form.Text4, "Giftun"},
+        {&form.Text5, "05"},    {&form.Text6, "03"},       {&form.Text7, "2001"},
+        {&form.Text8, "Anna"},  {&form.Text9, "45"},       {&form.Text10, "60"}};
+    for (const auto& [box, text] : entries) type(*box, text);
   }
 };
 
@@ -44,36 +39,6 @@ TEST_F(InsertDive, AnEmptyLogbookComesToLifeWhenTheWindowCloses) {
                              "Buddy", "Lang", "Salz", "Grafik"}),
             (std::vector<Texts>{{"1", "Egypt", "Hurghada", "Giftun", "05", "03", "2001", "45", "60",
                                  "Anna", "", "No", ""}}));
-}
-
-TEST_F(InsertDive, EveryBoxAndFlagReachesItsColumn) {
-  auto& form = open();
-  fill(form);
-  choose(form.SSTab1, 1);
-  type(form.Text11, "Großer Hai");
-  choose(form.SSTab1, 2);
-  for (auto* option : {&form.Option1, &form.Option4, &form.Option5, &form.Option9}) click(*option);
-  click(form.Check6);
-  click(form.Check7);
-  type(form.Text17, "80");
-  type(form.Text13, "3000");
-  type(form.Text18, "500");
-  type(form.Text14, "sunny");
-  type(form.Text15, "wet");
-  type(form.Text16, "0");
-  type(form.Text19, "12");
-  choose(form.SSTab1, 3);
-  type(form.Text21, "hai.jpg");
-  click(form.Command2);
-  EXPECT_FALSE(app->loaded(2));
-  EXPECT_EQ(rows("Logbuch",
-                 {"Lang", "Liter", "Bars", "Bare", "Wetter", "Anzug", "Höhe", "Blei", "Grafik"}),
-            (std::vector<Texts>{
-                {"Großer Hai", "80", "3000", "500", "sunny", "wet", "0", "12", "hai.jpg"}}));
-  EXPECT_EQ(rows("Logbuch", {"Salz", "Süß", "Ufer", "Boot", "Alu", "Stahl", "Sichtg", "Sichtm",
-                             "Sichts", "Deco", "Rep"}),
-            (std::vector<Texts>{
-                {"Yes", "No", "No", "Yes", "Yes", "No", "No", "No", "Yes", "Yes", "Yes"}}));
 }
 
 TEST_F(InsertDive, TheNextDiveKeepsWhatIsMarkedAndTheTank) {
@@ -156,7 +121,6 @@ TEST_F(InsertDive, NineThousandNineHundredNinetyNineIsTheLastNumber) {
   EXPECT_EQ(desktop->texts(),
             Texts{"The last dive number is over 9998. You could not enter more than 9999 dives. "
                   "Please select 'Sort logbook' and enter a lower start number. "});
-  EXPECT_FALSE(app->loaded(2));
   EXPECT_EQ(app->activeForm(), nullptr);
 }
 
@@ -164,7 +128,6 @@ TEST_F(InsertDive, TheNumberFollowsTheLastRowAndNotTheHighest) {
   add({{"Nr", "20"}});
   add({{"Nr", "7"}});
   auto& form = open();
-  desktop->messages();
   EXPECT_EQ(form.Text1.text(), "8");
   type(form.Text1, "5");
   EXPECT_EQ(form.Text1.text(), "8");

@@ -1,5 +1,7 @@
 #include "dives/Form8.h"
 
+#include <array>
+
 #include "support/logbook.h"
 #include "support/repaints.h"
 
@@ -8,21 +10,16 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr const char* kNotSorted =
-    "Attention! The dives are not sorted correctly. Please select 'Sort logbook'. "
-    "Otherwise there could be program errors.";
-
 class SortLogbook : public LogbookTest {
  protected:
   Form8& open() {
-    start();
-    click(app->MDIForm1().Menü1d);
+    startAt(&MDIForm1::Menü1d);
     return app->Form8();
   }
-  void addUnfilled(int count) {
+  void addUnfilled(int first, int last) {
     Workspace workspace;
     auto rows = workspace.OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset("Logbuch", {"Nr"});
-    for (int number = 1; number <= count; ++number) {
+    for (int number = first; number <= last; ++number) {
       rows.AddNew();
       rows.setField("Nr", number);
       rows.Update();
@@ -30,40 +27,36 @@ class SortLogbook : public LogbookTest {
   }
 };
 
-struct StartCase {
-  int dives;
-  const char* start;
-  const char* refusal;  // null: the question comes
-};
-
-class StartNumber : public SortLogbook, public ::testing::WithParamInterface<StartCase> {};
-
-TEST_P(StartNumber, IsComparedAsText) {
-  addUnfilled(GetParam().dives);
-  auto& form = open();
-  clear(form.Text1);
-  type(form.Text1, GetParam().start);
-  if (GetParam().refusal == nullptr) desktop->answer(kNo);
-  click(form.Command1);
-  EXPECT_EQ(desktop->texts(), Texts{GetParam().refusal == nullptr
-                                        ? std::string("Renumber all dives?")
-                                        : std::string("The first dive number must be lower than ") +
-                                              GetParam().refusal});
+TEST_F(SortLogbook, TheStartNumberIsComparedAsText) {
+  const struct {
+    int dives;
+    const char *start, *refusal;  // null: the question comes
+  } cases[] = {{2, "", nullptr},      {1001, "9000", "9000"},  {1001, "8999", nullptr},
+               {8000, "300", "2001"}, {8000, "1500", nullptr}, {9999, "1", nullptr},
+               {9999, "2", "2"}};
+  addUnfilled(1, 2);
+  open();
+  for (int before = 2; const auto& [dives, start, refusal] : cases) {
+    addUnfilled(before + 1, dives);
+    before = dives;
+    click(app->MDIForm1().Menü1d);
+    auto& form = app->Form8();
+    clear(form.Text1);
+    type(form.Text1, start);
+    if (refusal == nullptr) desktop->answer(kNo);
+    click(form.Command1);
+    EXPECT_EQ(desktop->texts(),
+              Texts{refusal == nullptr
+                        ? std::string("Renumber all dives?")
+                        : std::string("The first dive number must be lower than ") + refusal});
+    close(form);
+  }
   EXPECT_EQ(column("Nr").front(), "1");
 }
-
-INSTANTIATE_TEST_SUITE_P(Starts, StartNumber,
-                         ::testing::Values(StartCase{9999, "1", nullptr}, StartCase{9999, "2", "2"},
-                                           StartCase{1001, "9000", "9000"},
-                                           StartCase{1001, "8999", nullptr},
-                                           StartCase{8000, "300", "2001"},
-                                           StartCase{8000, "1500", nullptr},
-                                           StartCase{2, "", nullptr}));
 
 TEST_F(SortLogbook, GivesTheDivesNewNumbersInStoredOrder) {
   for (const int number : {7, 7, 3, 20}) add(someDive(number));
   auto& form = open();
-  desktop->messages();
   clear(form.Text1);
   type(form.Text1, "500");
   desktop->answer(kYes);
@@ -115,15 +108,11 @@ TEST_F(SortLogbook, ShowsItsProgressWhileItRunsAndTheStatusBarAfterwards) {
 TEST_F(SortLogbook, TheBoxTakesWholeNumbersFromOneOn) {
   addDives(1, 1);
   auto& form = open();
-  const auto typed = [&](const char* keys) {
+  for (const auto& [keys, left] : {std::pair{"12", "12"}, {"0", ""}, {"1a", ""}, {"0012", "12"}}) {
     clear(form.Text1);
     type(form.Text1, keys);
-    return form.Text1.text();
-  };
-  EXPECT_EQ(typed("12"), "12");
-  EXPECT_EQ(typed("0"), "");
-  EXPECT_EQ(typed("1a"), "");
-  EXPECT_EQ(typed("0012"), "12");
+    EXPECT_EQ(form.Text1.text(), left);
+  }
   clear(form.Text1);
   paste(form.Text1, "007");
   EXPECT_EQ(form.Text1.text(), "7");
@@ -132,29 +121,17 @@ TEST_F(SortLogbook, TheBoxTakesWholeNumbersFromOneOn) {
 TEST_F(SortLogbook, TheSpinButtonStopsAtEitherEnd) {
   addDives(1, 1);
   auto& form = open();
-  spinDown(form.SpinButton1);
-  EXPECT_EQ(form.Text1.text(), "1");
-  spinUp(form.SpinButton1);
-  EXPECT_EQ(form.Text1.text(), "2");
-  clear(form.Text1);
-  spinUp(form.SpinButton1);
-  EXPECT_EQ(form.Text1.text(), "2");
-  form.Text1.setText("9998");
-  spinUp(form.SpinButton1);
-  spinUp(form.SpinButton1);
-  EXPECT_EQ(form.Text1.text(), "9999");
-}
-
-TEST_F(SortLogbook, MendsWhatTheStartWarnsOf) {
-  for (const int number : {1, 2, 5}) add(someDive(number));
-  start();
-  EXPECT_EQ(desktop->texts(), Texts{kNotSorted});
-  click(app->MDIForm1().Menü1d);
-  desktop->answer(kYes);
-  click(app->Form8().Command1);
-  restart();
-  EXPECT_EQ(desktop->texts(), Texts{});
-  EXPECT_EQ(column("Nr"), (Texts{"1", "2", "3"}));
+  for (const auto& [before, up, down] : {std::array{"1", "2", "1"},
+                                         {"", "2", "1"},
+                                         {"9998", "9999", "9997"},
+                                         {"9999", "9999", "9998"}}) {
+    form.Text1.setText(before);
+    spinUp(form.SpinButton1);
+    EXPECT_EQ(form.Text1.text(), up);
+    form.Text1.setText(before);
+    spinDown(form.SpinButton1);
+    EXPECT_EQ(form.Text1.text(), down);
+  }
 }
 
 }  // namespace

@@ -32,24 +32,14 @@ constexpr const char* kNotSorted =
 constexpr int kThrough = std::numeric_limits<int>::max();
 
 /// How far the child has come, in memory that both processes see.
-class SharedSteps {
- public:
-  SharedSteps() {
-    void* page =
-        mmap(nullptr, sizeof(Steps), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-    if (page == MAP_FAILED) throw std::bad_alloc();
-    steps_ = new (page) Steps(0);
-  }
-  ~SharedSteps() { munmap(steps_, sizeof(Steps)); }
-  SharedSteps(const SharedSteps&) = delete;
-  SharedSteps& operator=(const SharedSteps&) = delete;
-  std::atomic<int>& operator*() const { return *steps_; }
-
- private:
+std::atomic<int>& sharedSteps() {
   using Steps = std::atomic<int>;
   static_assert(Steps::is_always_lock_free);
-  Steps* steps_ = nullptr;
-};
+  static void* const page =
+      mmap(nullptr, sizeof(Steps), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+  if (page == MAP_FAILED) throw std::bad_alloc();
+  return *new (page) Steps(0);
+}
 
 class Killed : public LogbookTest {
  protected:
@@ -59,17 +49,17 @@ class Killed : public LogbookTest {
   /// Returns how many steps were finished for certain; kThrough if it could not be stopped in time.
   int killAfter(int step, const Work& work) {
     app.reset();
-    const SharedSteps steps;
+    auto& steps = sharedSteps();
     const pid_t child = fork();
     if (child == 0) {
       ScriptedDesktop itsDesktop(folder.path());
       Nautrel itsProgram(itsDesktop);
-      work(itsProgram, itsDesktop, *steps);
-      *steps = kThrough;
+      work(itsProgram, itsDesktop, steps);
+      steps = kThrough;
       for (;;) pause();
     }
-    while (*steps < step && waitpid(child, nullptr, WNOHANG) == 0) usleep(100);
-    const int finished = *steps;
+    while (steps < step && waitpid(child, nullptr, WNOHANG) == 0) usleep(100);
+    const int finished = steps;
     kill(child, SIGKILL);
     int status = 0;
     waitpid(child, &status, 0);

@@ -90,19 +90,6 @@ std::string joined(const std::vector<GraphRow>& rows) {
   return all;
 }
 
-TEST_F(FiguresTest, StatisticOfOneDive) {
-  const auto figures = statistic({{"60", "30", "2020", "03", {"Salz", "Boot"}}});
-  EXPECT_EQ(figures.dives, 1);
-  EXPECT_EQ(figures.wholeDivetime, "1.");
-  EXPECT_EQ(figures.middleDivetime, "60.");
-  EXPECT_EQ(figures.middleDepth, "30.");
-  EXPECT_EQ(bands(figures), "1=100 % 0=0 % 0=0 % 0=0 % 0=0 % 0=0 % ");
-  EXPECT_EQ(figures.saltWater.percent, "100 %");
-  EXPECT_EQ(figures.fromBoat.dives, 1);
-  EXPECT_EQ(figures.sweetWater.percent, "0 %");
-  EXPECT_EQ(figures.fromShore.dives + figures.repetitive.dives + figures.decoStop.dives, 0);
-}
-
 TEST_F(FiguresTest, StatisticSumsAndAverages) {
   const struct {
     std::vector<Dive> logbook;

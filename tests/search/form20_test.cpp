@@ -1,18 +1,13 @@
+#include <tuple>
+
 #include "platform/errors.h"
 #include "search/search_test.h"
 
 namespace nautrel {
 namespace {
 
-struct FindCase {
-  const char* text;
-  const char* term;
-  std::ptrdiff_t place;
-  std::ptrdiff_t wholeWord;
-};
-
 TEST(RichTextBoxTest, FindsPlainAndWholeWordsAndCountsCharacters) {
-  const FindCase cases[] = {
+  const std::tuple<const char*, const char*, std::ptrdiff_t, std::ptrdiff_t> cases[] = {
       {"Das Rote Meer", "rote", 4, 4},
       {"Das Rote Meer", "ROT", 4, -1},
       {"Ärger, ärgern", "ÄRGERN", 7, 7},
@@ -30,8 +25,7 @@ TEST(RichTextBoxTest, FindsPlainAndWholeWordsAndCountsCharacters) {
       {"aXa a", "a", 0, 4},
       {"no", "now", -1, -1},
       {"", "x", -1, -1},
-      {"x", "", -1, -1},
-  };
+      {"x", "", -1, -1}};
   RichTextBox box;
   for (const auto& [text, term, place, wholeWord] : cases) {
     box.setText(text);
@@ -41,15 +35,14 @@ TEST(RichTextBoxTest, FindsPlainAndWholeWordsAndCountsCharacters) {
 }
 
 TEST_F(SearchTest, FullSearchSeesTheWholeRecordAsOneText) {
-  const Dive dive = {
-      {"Land", "Malta"},      {"Ort", "Gozo"},  {"Platz", "Blue Hole"}, {"Tag", "05"},
-      {"Monat", "03"},        {"Jahr", "2001"}, {"Buddy", "Anna"},      {"Zeit", "40"},
-      {"Tiefe", "60"},        {"Lang", "dark"}, {"Bars", "2900"},       {"Wetter", "sun"},
-      {"Anzug", "dry"},       {"Höhe", "10"},   {"Liter", "80"},        {"Bare", "500"},
-      {"Blei", "8"},          {"Salz", true},   {"Süß", true},          {"Ufer", true},
-      {"Boot", true},         {"Deco", true},   {"Alu", true},          {"Stahl", true},
-      {"Sichtg", true},       {"Sichtm", true}, {"Sichts", true},       {"Rep", true},
-      {"Grafik", "C:\\p.bmp"}};
+  Dive dive = {{"Land", "Malta"}, {"Ort", "Gozo"},        {"Platz", "Blue Hole"}, {"Tag", "05"},
+               {"Monat", "03"},   {"Jahr", "2001"},       {"Buddy", "Anna"},      {"Zeit", "40"},
+               {"Tiefe", "60"},   {"Lang", "dark"},       {"Bars", "2900"},       {"Wetter", "sun"},
+               {"Anzug", "dry"},  {"Höhe", "10"},         {"Liter", "80"},        {"Bare", "500"},
+               {"Blei", "8"},     {"Grafik", "C:\\p.bmp"}};
+  for (const auto* flag :
+       {"Salz", "Süß", "Ufer", "Boot", "Deco", "Alu", "Stahl", "Sichtg", "Sichtm", "Sichts", "Rep"})
+    dive[flag] = true;
   startWith({dive, {}});
   auto& form = everything();
   const char* const full =

@@ -72,6 +72,12 @@ void LogbookTest::start() {
   app->Form1().Timer1.userFires();
 }
 
+void LogbookTest::startAt(MenuItem MDIForm1::*command) {
+  start();
+  desktop->messages();
+  click(app->MDIForm1().*command);
+}
+
 void LogbookTest::restart() {
   app.reset();
   const auto settings = desktop->settings;
@@ -93,6 +99,13 @@ void LogbookTest::addDives(int first, int last) {
   Workspace workspace;
   auto rows = workspace.OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset("Logbuch");
   for (int number = first; number <= last; ++number) append(rows, someDive(number));
+}
+
+void LogbookTest::deleteElsewhere(const std::string& table, int row) {
+  Workspace other;
+  auto rows = other.OpenDatabase(folder.file("Logbuch.mdb")).OpenRecordset(table);
+  rows.Move(row);
+  rows.Delete();
 }
 
 std::vector<std::vector<std::string>> LogbookTest::rows(const std::string& table,

@@ -48,6 +48,8 @@ class LogbookTest : public ::testing::Test {
 
   /// Shows the splash, lets its timer fire, and leaves the main window open.
   void start();
+  /// start(), without what it says, and a command of the main menu.
+  void startAt(MenuItem MDIForm1::*command);
   /// Ends this run of the program and begins another over the same file.
   void restart();
 
@@ -55,6 +57,8 @@ class LogbookTest : public ::testing::Test {
   void add(const Dive& dive, const std::string& table = "Logbuch");
   /// Dives first..last, made by someDive().
   void addDives(int first, int last);
+  /// Another program deletes a row, the first one being 0.
+  void deleteElsewhere(const std::string& table, int row);
   /// All rows as text, NULL as "NULL", flags as "Yes" and "No"; the named columns only.
   std::vector<std::vector<std::string>> rows(const std::string& table, const Columns& columns);
   /// One column of Logbuch.
