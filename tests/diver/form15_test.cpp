@@ -136,7 +136,7 @@ TEST_F(Equipment, ChangesAreStoredOrThrownAwayByMovingAndANullLeavesTheTextBefor
   EXPECT_EQ(desktop->texts(), Texts{});
   EXPECT_NE(form.Text8.text(), "2");
   EXPECT_EQ(rows("Ausrüstung", {"Gegenstand", "Fabrikant", "Nr", "Preis"}),
-            (Rows{{"Fins", "Atlas", "1", "NULL"}, {"Mask", "Atlas", form.Text8.text(), "20"}}));
+            (Rows{{"Fins", "Atlas", "1", ""}, {"Mask", "Atlas", form.Text8.text(), "20"}}));
 }
 
 }  // namespace
