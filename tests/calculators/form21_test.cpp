@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "calculators/Form22.h"
 #include "support/logbook.h"
 
 namespace nautrel {
@@ -51,25 +52,17 @@ TEST_F(UnitCalculations, FillThePageWithEveryKeystroke) {
   EXPECT_EQ(desktop->texts(), std::vector<std::string>{});
 }
 
-TEST_F(UnitCalculations, ReadAndWriteAsTheLocaleDoes) {
+TEST_F(UnitCalculations, TakeEveryBoxAsASourceAndReadItAsTheLocaleDoes) {
   desktop->places = commaLocale();
-  auto& form = open();
-  choose(form.SSTab1, 4);
-  type(form.Text26, "36,6");
-  EXPECT_EQ(form.Text27.text(), "309,600000000");
-  EXPECT_EQ(form.Text28.text(), "97,880000000");
-}
-
-TEST_F(UnitCalculations, TakeEveryBoxAsASource) {
   auto& form = open();
   for (const auto page : kPages) {
     choose(form.SSTab1, static_cast<int>(page));
     for (const int source : boxesOf(page)) {
       clear(form.box(source));
       EXPECT_TRUE(isEmpty(form, page)) << source;
-      typeOn(form, "20");
+      typeOn(form, "2,5");
       EXPECT_EQ(form.Text5.text(), std::to_string(source));
-      auto expected = convertUnits(source, {{source, "20"}}, desktop->places);
+      const auto expected = convertUnits(source, {{source, "2,5"}}, commaLocale());
       for (const auto& [number, text] : expected)
         EXPECT_EQ(form.box(number).text(), text) << source << " to " << number;
     }
@@ -126,30 +119,42 @@ TEST_F(UnitCalculations, WalkTheLengthsBackwards) {
   }
 }
 
-TEST_F(UnitCalculations, CloseFromEveryPageByEscAndForgetEverything) {
-  for (const auto page : kPages) {
-    auto& form = open();
-    for (const auto each : kPages) EXPECT_TRUE(isEmpty(form, each));
-    EXPECT_EQ(form.Text5.text(), "1");
-    choose(form.SSTab1, static_cast<int>(page));
-    type(form.box(boxesOf(page).front()), "5");
-    press(form, Key::Escape);
-    EXPECT_FALSE(app->loaded(21));
-  }
+TEST_F(UnitCalculations, CloseByEscOrTheirButtonsAndForgetEverything) {
+  const struct {
+    UnitPage page;
+    Button Form21::*button;
+  } cases[] = {{UnitPage::Length, nullptr},
+               {UnitPage::Volumes, &Form21::Command3},
+               {UnitPage::Weight, nullptr},
+               {UnitPage::Pressure, nullptr},
+               {UnitPage::Temperature, &Form21::Command9},
+               {UnitPage::Wind, &Form21::Command11}};
+  for (const auto& [page, button] : cases)
+    for (const bool byKey : {true, false}) {
+      if (!byKey && button == nullptr) continue;
+      auto& form = open();
+      for (const auto each : kPages) EXPECT_TRUE(isEmpty(form, each));
+      EXPECT_EQ(form.Text5.text(), "1");
+      choose(form.SSTab1, static_cast<int>(page));
+      type(form.box(boxesOf(page).front()), "5");
+      byKey ? press(form, Key::Escape) : click(form.*button);
+      EXPECT_FALSE(app->loaded(21));
+    }
 }
 
-TEST_F(UnitCalculations, CloseByTheirButtons) {
-  const std::pair<int, Button Form21::*> buttons[] = {
-      {1, &Form21::Command3}, {4, &Form21::Command9}, {5, &Form21::Command11}};
-  for (const auto& [page, button] : buttons) {
-    auto& form = open();
-    choose(form.SSTab1, page);
-    click(form.*button);
-    EXPECT_FALSE(app->loaded(21));
-  }
+TEST_F(UnitCalculations, StandBesideADiveAndTheOtherCalculator) {
+  addDives(1, 2);
+  start();
+  click(app->MDIForm1().Menü3a);
+  open();
+  click(app->MDIForm1().Menü7c);
+  EXPECT_TRUE(app->loaded(3));
+  EXPECT_EQ(app->MDIForm1().MousePointer(), 0);
+  click(app->MDIForm1().Menü2a);
+  EXPECT_TRUE(app->loaded(21) && app->loaded(22));
 }
 
-TEST_F(UnitCalculations, NeedNeitherLogbookNorSettings) {
+TEST_F(UnitCalculations, NeedNeitherLogbookNorSettingsAndNoMoreDoesTheOtherCalculator) {
   start();
   const auto settings = desktop->settings;
   std::filesystem::remove(folder.file("Logbuch.mdb"));
@@ -157,19 +162,11 @@ TEST_F(UnitCalculations, NeedNeitherLogbookNorSettings) {
   type(form.Text3, "18");
   EXPECT_EQ(form.Text4.text(), "59.040000000");
   close(form);
+  click(app->MDIForm1().Menü7c);
+  click(app->Form22().Command3);
+  close(app->Form22());
   EXPECT_FALSE(std::filesystem::exists(folder.file("Logbuch.mdb")));
   EXPECT_EQ(desktop->settings, settings);
-}
-
-TEST_F(UnitCalculations, StandBesideADive) {
-  addDives(1, 2);
-  start();
-  click(app->MDIForm1().Menü3a);
-  open();
-  EXPECT_TRUE(app->loaded(3));
-  EXPECT_EQ(app->MDIForm1().MousePointer(), 0);
-  click(app->MDIForm1().Menü2a);
-  EXPECT_TRUE(app->loaded(21));
 }
 
 }  // namespace

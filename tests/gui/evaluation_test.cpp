@@ -11,24 +11,13 @@
 #include "evaluation/Form6.h"
 #include "gui/gui_test.h"
 #include "platform/qt/chart_widget.h"
-#include "platform/qt/qt_desktop.h"
 
 namespace nautrel {
 namespace {
 
-class Evaluation : public GuiTest {
- protected:
-  Form10& years() {
-    addDives(1, 3);
-    start();
-    click(app->MDIForm1().Menü4b);
-    settle();
-    return app->Form10();
-  }
-};
-
-TEST_F(Evaluation, TheChartOnTheScreenFollowsTheOptions) {
-  auto& form = years();
+TEST_F(GuiTest, TheChartOnTheScreenFollowsTheOptionsAndNothingJumps) {
+  addDives(1, 3);
+  auto& form = open(&MDIForm1::Menü4b, &Nautrel::Form10);
   const auto& chart = widget<ChartWidget>(form.MSChart1);
   EXPECT_EQ(chart.data().kind, ChartKind::Line);
   ASSERT_EQ(chart.data().rows.size(), 10u);
@@ -36,6 +25,7 @@ TEST_F(Evaluation, TheChartOnTheScreenFollowsTheOptions) {
   EXPECT_EQ(chart.data().rows.back().value, 3);
   EXPECT_EQ(chart.data().categoryTitle, "Years");
   EXPECT_EQ(chart.data().valueTitle, "Count");
+  const auto place = chart.geometry();
   const std::pair<OptionButton*, ChartKind> kinds[] = {{&form.Option2, ChartKind::Area3D},
                                                        {&form.Option3, ChartKind::Bars3D},
                                                        {&form.Option4, ChartKind::Bars},
@@ -44,37 +34,13 @@ TEST_F(Evaluation, TheChartOnTheScreenFollowsTheOptions) {
     mouse(*option);
     EXPECT_EQ(chart.data().kind, kind);
     EXPECT_EQ(chart.data().rotation, isSpatial(kind));
+    EXPECT_EQ(chart.geometry(), place);
     EXPECT_EQ(widget(form.Label3).isVisible(), isSpatial(kind));
     EXPECT_EQ(widget(form.Label2).isVisible(), !isSpatial(kind));
+    const auto& hint = widget(form.Label3);
+    EXPECT_TRUE(!isSpatial(kind) || hint.width() >= hint.sizeHint().width());
   }
 }
-
-TEST_F(Evaluation, NothingJumpsWhenTheHintTakesThePlaceOfTheYear) {
-  auto& form = years();
-  const auto before = widget(form.MSChart1).geometry();
-  mouse(form.Option3);
-  EXPECT_EQ(widget(form.MSChart1).geometry(), before);
-  const auto& hint = widget(form.Label3);
-  EXPECT_GE(hint.width(), hint.sizeHint().width());
-}
-
-/// The real desktop over a folder of the test; only its boxes are not shown.
-class FolderDesktop : public QtDesktop {
- public:
-  explicit FolderDesktop(std::string folder) : folder_(std::move(folder)) {}
-  std::vector<std::string> shown;
-
- protected:
-  int showMessage(const std::string& prompt, int, const std::string&) override {
-    shown.push_back(prompt);
-    return kOk;
-  }
-  std::string readSetting(const std::string&, const std::string&) override { return {}; }
-  std::string executableFolder() override { return folder_; }
-
- private:
-  std::string folder_;
-};
 
 /// The program over the real desktop.
 class EvaluationDesktop : public GuiTest {
@@ -92,27 +58,20 @@ class EvaluationDesktop : public GuiTest {
 
 TEST_F(EvaluationDesktop, TheClipboardGetsPictureAndRows) {
   addDives(1, 2);
-  start();
-  click(app->MDIForm1().Menü4b);
-  settle();
   QApplication::clipboard()->clear();
-  mouse(app->Form10().Command1);
+  mouse(open(&MDIForm1::Menü4b, &Nautrel::Form10).Command1);
   const auto* copied = QApplication::clipboard()->mimeData();
   EXPECT_FALSE(copied->imageData().value<QImage>().isNull());
   const auto lines = copied->text().split('\n', Qt::SkipEmptyParts);
   ASSERT_EQ(lines.size(), 11);
   EXPECT_EQ(lines.front(), "Years\tCount");
   EXPECT_TRUE(lines.back().endsWith("\t0")) << fromQt(lines.back());
-  EXPECT_EQ(real.shown,
-            std::vector<std::string>{"The graph and the data was copied to clipboard."});
+  EXPECT_EQ(real.told, std::vector<std::string>{"The graph and the data was copied to clipboard."});
 }
 
 TEST_F(EvaluationDesktop, TheMenuDropsBelowTheNumberAndShowsTheDive) {
   addDives(4, 6);
-  start();
-  click(app->MDIForm1().Menü4a);
-  settle();
-  auto& form = app->Form6();
+  auto& form = open(&MDIForm1::Menü4a, &Nautrel::Form6);
   auto& button = widget<QPushButton>(form.Command6);
   QPoint dropped;
   QTimer::singleShot(0, [&] {

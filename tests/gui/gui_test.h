@@ -3,14 +3,21 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
+#include <functional>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/form_view.h"
 #include "platform/qt/main_frame.h"
+#include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_looks.h"
 #include "support/logbook.h"
 
 namespace nautrel {
+
+template <class... Kinds>
+bool isOneOf(const QWidget& widget) {
+  return ((dynamic_cast<const Kinds*>(&widget) != nullptr) || ...);
+}
 
 /// The program with its real look over the scripted desktop, driven by real widgets and keys.
 class GuiTest : public LogbookTest {
@@ -25,6 +32,24 @@ class GuiTest : public LogbookTest {
   void start() {
     LogbookTest::start();
     settle();
+  }
+  /// A window of the program, opened from the menu.
+  template <class Window>
+  Window& open(MenuItem MDIForm1::*item, Window& (Nautrel::*window)()) {
+    start();
+    click(app->MDIForm1().*item);
+    settle();
+    return (*app.*window)();
+  }
+  /// Each child window in turn, one at a time.
+  void forEveryWindow(const std::function<void(Form&)>& see) {
+    for (int number = 2; number <= 22; ++number) {
+      app->handle([&] { app->show(number); });
+      settle();
+      if (auto* form = app->ifLoaded(number)) see(*form);
+      app->handle([&] { app->unload(number); });
+      settle();
+    }
   }
   /// Lets the screen come to rest.
   static void settle() {
@@ -65,6 +90,24 @@ class GuiTest : public LogbookTest {
   }
 
   std::unique_ptr<QtLooks> looks;
+};
+
+/// The real desktop over a folder of the test; only its boxes are not shown.
+class FolderDesktop : public QtDesktop {
+ public:
+  explicit FolderDesktop(std::string folder) : folder_(std::move(folder)) {}
+  std::vector<std::string> told;
+
+ protected:
+  int showMessage(const std::string& prompt, int, const std::string&) override {
+    told.push_back(prompt);
+    return kOk;
+  }
+  std::string readSetting(const std::string&, const std::string&) override { return {}; }
+  std::string executableFolder() override { return folder_; }
+
+ private:
+  std::string folder_;
 };
 
 }  // namespace nautrel

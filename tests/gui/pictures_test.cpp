@@ -4,10 +4,10 @@
 
 #include <QBuffer>
 #include <QColor>
+#include <QDataStream>
 #include <QFile>
 #include <QPainter>
 #include <QTemporaryDir>
-#include <QtEndian>
 #include <random>
 
 #ifndef Q_OS_WIN
@@ -17,24 +17,20 @@
 namespace nautrel {
 namespace {
 
-class Bytes {
- public:
-  Bytes& words(std::initializer_list<quint16> numbers) { return add(numbers); }
-  Bytes& longs(std::initializer_list<quint32> numbers) { return add(numbers); }
-  operator QByteArray() const { return bytes_; }
-
- private:
-  template <class Number>
-  Bytes& add(std::initializer_list<Number> numbers) {
-    for (const Number number : numbers) {
-      const Number little = qToLittleEndian(number);
-      bytes_.append(reinterpret_cast<const char*>(&little), sizeof little);
-    }
-    return *this;
-  }
-
-  QByteArray bytes_;
-};
+template <class Number>
+QByteArray little(std::initializer_list<Number> numbers) {
+  QByteArray bytes;
+  QDataStream out(&bytes, QIODevice::WriteOnly);
+  out.setByteOrder(QDataStream::LittleEndian);
+  for (const Number number : numbers) out << number;
+  return bytes;
+}
+QByteArray words(std::initializer_list<quint16> numbers) {
+  return little(numbers);
+}
+QByteArray longs(std::initializer_list<quint32> numbers) {
+  return little(numbers);
+}
 
 constexpr quint16 kInch = 1440;
 
@@ -43,29 +39,19 @@ constexpr quint16 kInch = 1440;
 QByteArray windowsMetafile(bool upwards = false) {
   const quint16 top = upwards ? kInch : 0;
   const auto height = static_cast<quint16>(upwards ? -kInch : kInch);
-  return Bytes()
-      .longs({0x9AC6CDD7})
-      .words({0, 0, 0, 2 * kInch, kInch, kInch, 0, 0})
-      .words({0x9AC6 ^ 0xCDD7 ^ 2 * kInch})
-      .words({1, 9, 0x300, 40, 0, 1, 7, 0, 0})
-      .words({5, 0, 0x20B, top, 0})
-      .words({5, 0, 0x20C, height, 2 * kInch})
-      .words({7, 0, 0x2FC, 0, 0x00FF, 0x0000, 0})
-      .words({4, 0, 0x12D, 0})
-      .words({7, 0, 0x41B, kInch, kInch, 0, 0})
-      .words({3, 0, 0});
+  return longs({0x9AC6CDD7}) + words({0, 0, 0, 2 * kInch, kInch, kInch, 0, 0}) +
+         words({0x9AC6 ^ 0xCDD7 ^ 2 * kInch}) + words({1, 9, 0x300, 40, 0, 1, 7, 0, 0}) +
+         words({5, 0, 0x20B, top, 0}) + words({5, 0, 0x20C, height, 2 * kInch}) +
+         words({7, 0, 0x2FC, 0, 0x00FF, 0x0000, 0}) + words({4, 0, 0x12D, 0}) +
+         words({7, 0, 0x41B, kInch, kInch, 0, 0}) + words({3, 0, 0});
 }
 
 /// The same as an enhanced metafile.
 QByteArray enhancedMetafile() {
-  return Bytes()
-      .longs({1, 88, 0, 0, 192, 96, 0, 0, 5080, 2540, 0x464D4520})
-      .longs({0x10000, 192, 5, 2, 0, 0, 0, 1920, 1080, 508, 286})
-      .longs({39, 24, 1, 0, 0x000000FF, 0})
-      .longs({37, 12, 1})
-      .longs({37, 12, 0x80000008})
-      .longs({43, 24, 0, 0, 96, 96})
-      .longs({14, 20, 0, 16, 20});
+  return longs({1, 88, 0, 0, 192, 96, 0, 0, 5080, 2540, 0x464D4520}) +
+         longs({0x10000, 192, 5, 2, 0, 0, 0, 1920, 1080, 508, 286}) +
+         longs({39, 24, 1, 0, 0x000000FF, 0}) + longs({37, 12, 1}) + longs({37, 12, 0x80000008}) +
+         longs({43, 24, 0, 0, 96, 96}) + longs({14, 20, 0, 16, 20});
 }
 
 QByteArray photograph(QSize size, const char* format = "jpg") {
@@ -77,17 +63,6 @@ QByteArray photograph(QSize size, const char* format = "jpg") {
   buffer.open(QIODevice::WriteOnly);
   image.save(&buffer, format, 90);
   return bytes;
-}
-
-/// The camera was held on its side.
-QByteArray turnedPhotograph(QSize size) {
-  const QByteArray jpg = photograph(size);
-  const QByteArray exif = QByteArray::fromHex(
-      "ffe10022457869660000"
-      "4d4d002a00000008"
-      "0001011200030000000100060000"
-      "00000000");
-  return jpg.first(2) + exif + jpg.mid(2);
 }
 
 bool isRed(const QColor& color) {
@@ -102,10 +77,6 @@ class PicturesTest : public testing::Test {
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
     return path;
-  }
-
-  QImage load(const QString& name, const QByteArray& bytes) {
-    return pictures_.load(write(name, bytes));
   }
 
   int failureOf(const QString& path) {
@@ -136,7 +107,6 @@ TEST_F(PicturesTest, LoadsEveryKindAtWhatAScreenCanShow) {
     QColor right;
   } cases[] = {
       {"a.jpg", photograph(big), {400, 300}, Qt::blue},
-      {"a.bmp", photograph(big, "bmp"), {400, 300}, Qt::blue},
       {"a.dib", photograph(small, "bmp"), small, Qt::blue},
       {"jpg named.bmp", photograph(small), small, Qt::blue},
       {"a.wmf", windowsMetafile(), {400, 200}, Qt::white},
@@ -146,7 +116,7 @@ TEST_F(PicturesTest, LoadsEveryKindAtWhatAScreenCanShow) {
       {"a.gif", twoDots, {2, 1}, Qt::blue},
   };
   for (const auto& [name, bytes, size, right] : cases) {
-    const QImage image = load(name, bytes);
+    const QImage image = pictures_.load(write(name, bytes));
     ASSERT_EQ(image.size(), size) << name;
     const int middle = size.height() / 2;
     EXPECT_TRUE(isRed(image.pixelColor(size.width() / 4, middle))) << name;
@@ -157,7 +127,12 @@ TEST_F(PicturesTest, LoadsEveryKindAtWhatAScreenCanShow) {
 }
 
 TEST_F(PicturesTest, TurnsAPhotographAsTheCameraWasHeld) {
-  const QImage image = load("a.jpg", turnedPhotograph({800, 600}));
+  QByteArray onItsSide = photograph({800, 600});
+  onItsSide.insert(2, QByteArray::fromHex("ffe10022457869660000"
+                                          "4d4d002a00000008"
+                                          "0001011200030000000100060000"
+                                          "00000000"));
+  const QImage image = pictures_.load(write("a.jpg", onItsSide));
   ASSERT_EQ(image.size(), QSize(225, 300));
   EXPECT_TRUE(isRed(image.pixelColor(112, 20)));
   EXPECT_FALSE(isRed(image.pixelColor(112, 280)));
@@ -174,12 +149,8 @@ TEST_F(PicturesTest, TellsWhatIsNotThereFromWhatIsNoPicture) {
 #endif
   QByteArray boundless = photograph({64, 64});
   boundless.replace(boundless.indexOf("\xFF\xC0") + 5, 4, QByteArray::fromHex("ff00ff00"));
-  const struct {
-    const char* name;
-    QByteArray bytes;
-  } rubbish[] = {
+  const std::pair<const char*, QByteArray> rubbish[] = {
       {"empty.jpg", {}},
-      {"text.bmp", "This is no picture."},
       {"head.bmp", "BM"},
       {"head.jpg", "\xFF\xD8\xFF\xE0"},
       {"head.gif", "GIF89a"},

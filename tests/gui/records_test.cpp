@@ -1,59 +1,19 @@
 #include <QAbstractButton>
 #include <QHeaderView>
-#include <QLabel>
 #include <QMdiSubWindow>
-#include <QTabWidget>
 
 #include "dives/Form13.h"
 #include "dives/Form4.h"
 #include "dives/Form5.h"
 #include "gui/gui_test.h"
-#include "platform/qt/navigator_bar.h"
 #include "platform/qt/table_binding.h"
 
 namespace nautrel {
 namespace {
 
-class RecordWindows : public GuiTest {
- protected:
-  Form13& table() {
-    start();
-    click(app->MDIForm1().Menü3d);
-    settle();
-    return app->Form13();
-  }
-};
-
-TEST_F(RecordWindows, EveryButtonAndTextHasTheRoomItNeeds) {
+TEST_F(GuiTest, TheNavigatorLeavesTheFocusToTheBoxAndTheWindowSelectsItsText) {
   addDives(1, 3);
-  start();
-  for (const int number : {2, 3, 4, 5, 8}) {
-    app->handle([&] { app->show(number); });
-    settle();
-    auto& form = *app->ifLoaded(number);
-    auto* pages = window(form)->findChild<QTabWidget*>();
-    for (int page = 0; page < (pages == nullptr ? 1 : pages->count()); ++page) {
-      if (pages != nullptr) pages->setCurrentIndex(page);
-      settle();
-      for (auto* part : window(form)->findChildren<QWidget*>()) {
-        const bool written = qobject_cast<QAbstractButton*>(part) != nullptr ||
-                             qobject_cast<QLabel*>(part) != nullptr ||
-                             dynamic_cast<NavigatorBar*>(part) != nullptr;
-        if (!written || part->objectName().isEmpty() || !part->isVisible()) continue;
-        EXPECT_GE(part->width(), part->minimumSizeHint().width())
-            << form.name() << ": " << fromQt(part->objectName());
-      }
-    }
-    app->handle([&] { app->unload(number); });
-  }
-}
-
-TEST_F(RecordWindows, TheNavigatorLeavesTheFocusToTheBoxAndTheWindowSelectsItsText) {
-  addDives(1, 3);
-  start();
-  click(app->MDIForm1().Menü2b);
-  settle();
-  auto& form = app->Form4();
+  auto& form = open(&MDIForm1::Menü2b, &Nautrel::Form4);
   expectFocus(form.Text2);
   EXPECT_EQ(widget<QLineEdit>(form.Text2).selectedText(), "Land 1");
   keys("X");
@@ -67,29 +27,28 @@ TEST_F(RecordWindows, TheNavigatorLeavesTheFocusToTheBoxAndTheWindowSelectsItsTe
   EXPECT_EQ(fromQt(window(form)->windowTitle()), "Edit dives - Number 3");
 }
 
-TEST_F(RecordWindows, AnAccessKeyOfTheWindowComesBeforeThatOfTheMenuBar) {
+TEST_F(GuiTest, AnAccessKeyOfTheWindowComesBeforeThatOfTheMenuBar) {
   addDives(1, 3);
-  start();
-  click(app->MDIForm1().Menü2c);
-  choose(app->Form5().SSTab1, 1);
+  auto& form = open(&MDIForm1::Menü2c, &Nautrel::Form5);
+  choose(form.SSTab1, 1);
   settle();
-  mouse(app->Form5().Text6);
+  mouse(form.Text6);
   keys("2");
-  mouse(app->Form5().Text7);
+  mouse(form.Text7);
   keys("1");
   key(Qt::Key_E, Qt::AltModifier);
   EXPECT_EQ(desktop->texts(),
             std::vector<std::string>{"First dive-# must be lower than last dive-#"});
-  expectFocus(app->Form5().Command4);
+  expectFocus(form.Command4);
 }
 
-TEST_F(RecordWindows, TheTableReadsOnlyTheRowsInSight) {
+TEST_F(GuiTest, TheTableReadsOnlyTheRowsInSight) {
   addDives(1, 400);
   auto dive = someDive(401);
   dive["Lang"] = "one\r\nline";
   dive["Boot"] = true;
   add(dive);
-  auto& form = table();
+  auto& form = open(&MDIForm1::Menü3d, &Nautrel::Form13);
   auto& view = widget<TableView>(form.MSFlexGrid1);
   ASSERT_EQ(view.model()->rowCount(), 401);
   EXPECT_EQ(view.model()->columnCount(), 30);
@@ -107,9 +66,9 @@ TEST_F(RecordWindows, TheTableReadsOnlyTheRowsInSight) {
   EXPECT_EQ(fromQt(view.model()->headerData(29, Qt::Horizontal).toString()), "Grafik");
 }
 
-TEST_F(RecordWindows, TheTableIsTheOneThatCanBeSizedAndItsGridFollows) {
+TEST_F(GuiTest, TheTableIsTheOneThatCanBeSizedAndItsGridFollows) {
   addDives(1, 3);
-  auto& form = table();
+  auto& form = open(&MDIForm1::Menü3d, &Nautrel::Form13);
   auto* frame = qobject_cast<QMdiSubWindow*>(window(form));
   ASSERT_NE(frame, nullptr);
   frame->resize(500, 300);

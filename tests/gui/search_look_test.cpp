@@ -15,9 +15,7 @@ class SearchLook : public GuiTest {
  protected:
   /// Types the term into the real box and starts by Enter.
   Form12& found(const QString& term) {
-    start();
-    click(app->MDIForm1().Menü3b);
-    settle();
+    open(&MDIForm1::Menü3b, &Nautrel::Form12);
     keys(term);
     key(Qt::Key_Return);
     return app->Form12();
@@ -37,11 +35,11 @@ TEST_F(SearchLook, RoadOfAHitIsTakenByMouseAndKeys) {
   addDives(1, 9);
   auto& search = found("land");
   EXPECT_EQ(search.List1.ListCount(), 9);
-  const auto sizeBefore = size(search);
+  const auto before = window(search)->geometry();
   press(search.List1, 3, true);
 
   EXPECT_TRUE(window(search)->isMinimized());
-  EXPECT_LT(size(search).height(), sizeBefore.height() / 2);
+  EXPECT_LT(size(search).height(), before.height() / 2);
   auto& list = app->Form19();
   auto* found = window(list);
   auto* dive = window(app->Form3());
@@ -62,7 +60,7 @@ TEST_F(SearchLook, RoadOfAHitIsTakenByMouseAndKeys) {
   EXPECT_FALSE(app->loaded(3));
   EXPECT_FALSE(app->loaded(19));
   EXPECT_FALSE(window(search)->isMinimized());
-  EXPECT_EQ(size(search), sizeBefore);
+  EXPECT_EQ(window(search)->geometry(), before);
   EXPECT_EQ(widget<QListView>(search.List1).currentIndex().row(), 3);
   key(Qt::Key_Down);
   EXPECT_EQ(search.Frame2.caption(), "Dive 5");

@@ -69,13 +69,9 @@ class Reports : public LogbookTest {
   }
 };
 
-TEST_F(Reports, TheDeliveredListShowsTheRange) {
+TEST_F(Reports, TheDeliveredListShowsTheRangeOneDiveAndNone) {
   addDives(1, 12);
-  add({{"Nr", "13"},
-       {"Land", "Ägypten & <Sinai>"},
-       {"Tag", "1"},
-       {"Monat", "2"},
-       {"Jahr", "2001"}});
+  add({{"Nr", "13"}, {"Land", "<Sinai>"}, {"Tag", "1"}, {"Monat", "2"}, {"Jahr", "2001"}});
   const auto formula = "ToNumber ({Logbuch.Nr}) in 12 to 13";
   const auto report = std::get<ListReport>(delivered("Liste.rpt", formula));
   EXPECT_EQ(report.title, "Dive list");
@@ -83,21 +79,17 @@ TEST_F(Reports, TheDeliveredListShowsTheRange) {
   EXPECT_EQ(report.footer(1, 3), "Nautrel 2.0 · printed 3/5/2001 2:07:09 PM | Page 1 of 3");
   EXPECT_EQ(report.cells,
             (Texts{"12", "05.03.2001", "Land 12", "Ort 12", "P", "40 min", "60 ft", "",  //
-                   "13", "1.2.2001", "Ägypten & <Sinai>", "", "", "", "", ""}));
+                   "13", "1.2.2001", "<Sinai>", "", "", "", "", ""}));
   Texts heads;
   for (const auto& column : report.layout.columns) heads.push_back(column.head);
   EXPECT_EQ(heads, (Texts{"#", "Date", "Country", "City / Island", "Dive place", "Time", "Depth",
                           "Buddy"}));
-}
-
-TEST_F(Reports, TheDeliveredListTellsOneDiveAndNone) {
-  addDives(1, 3);
   const auto subtitle = [&](const std::string& range) {
     return std::get<ListReport>(delivered("Liste.rpt", "ToNumber ({Logbuch.Nr}) in " + range))
         .subtitle;
   };
   EXPECT_EQ(subtitle("2 to 2"), "Dive 2");
-  EXPECT_EQ(subtitle("7 to 9"), "No dives");
+  EXPECT_EQ(subtitle("17 to 19"), "No dives");
 }
 
 TEST_F(Reports, AnEditedListComesOutAsEdited) {
@@ -154,11 +146,7 @@ TEST_F(Reports, TheDeliveredPagesShowEveryColumnOfTheirRow) {
 TEST_F(Reports, AFaultNamesTheFileAndWhatIsWrong) {
   addDives(1, 1);
   const std::string column = "\ncolumn: # | 12 | left | {{Nr}}";
-  struct Broken {
-    std::string source;
-    std::string told;
-  };
-  const Broken templates[] = {
+  const std::pair<std::string, std::string> templates[] = {
       {"", "empty"},
       {"rows: Logbuch", "no columns"},
       {"title: x" + column, "no table"},
@@ -182,11 +170,8 @@ TEST_F(Reports, AFaultNamesTheFileAndWhatIsWrong) {
   }
   EXPECT_NE(faultOf("rows: Logbuch" + column, "all of them").find("\"all of them\""),
             std::string::npos);
-}
-
-TEST_F(Reports, AMissingTemplateOrLogbookIsAFaultToo) {
-  const ReportJob job{.templatePath = folder.file("Liste.rpt")};
-  EXPECT_THROW(makeReport(job, {}, {}), ReportFault);
+  const ReportJob missing{.templatePath = folder.file("Liste.rpt")};
+  EXPECT_THROW(makeReport(missing, {}, {}), ReportFault);
   std::filesystem::remove(folder.file("Logbuch.mdb"));
   EXPECT_NE(faultOf("<p>").find("Logbuch.mdb"), std::string::npos);
 }

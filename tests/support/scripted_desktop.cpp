@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <ostream>
@@ -146,6 +147,11 @@ void ScriptedDesktop::popup(Menu& menu, const Control* above) {
 
 Locale commaLocale() {
   return {",", ".", "dd.MM.yyyy", "HH:mm:ss"};
+}
+
+std::string withComma(std::string text) {
+  std::replace(text.begin(), text.end(), '.', ',');
+  return text;
 }
 
 }  // namespace nautrel

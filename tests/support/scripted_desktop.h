@@ -111,5 +111,7 @@ class ScriptedDesktop : public Desktop {
 
 /// The locale of a system that writes 1.234,5 and 05.03.2001 14:07:09.
 Locale commaLocale();
+/// Texts of point numbers as that system writes them.
+std::string withComma(std::string text);
 
 }  // namespace nautrel
