@@ -10,6 +10,8 @@
 #include <QTemporaryDir>
 #include <random>
 
+#include "support/failure.h"
+
 #ifndef Q_OS_WIN
 #include <sys/stat.h>
 #endif
@@ -80,12 +82,7 @@ class PicturesTest : public testing::Test {
   }
 
   int failureOf(const QString& path) {
-    try {
-      pictures_.load(path);
-    } catch (const RunTimeError& failure) {
-      return failure.number;
-    }
-    return 0;
+    return nautrel::failureOf([&] { pictures_.load(path); });
   }
 
   QTemporaryDir folder_;

@@ -201,7 +201,7 @@ TEST_F(ListFile, TakesTheRowsOfTheRangeByTheirPlace) {
 
 TEST_F(ListFile, EndsEarlyWithRowsMissing) {
   auto& form = openWith(1, 3);
-  app->workspace().OpenDatabase(app->databasePath()).OpenRecordset("Logbuch").Delete();
+  deleteElsewhere("Logbuch", 0);
   const auto printed = head("3/5/2001 2:07:09 PM");
   EXPECT_EQ(save(form, "1", "3"), printed);
   EXPECT_EQ(save(form, "3", "3").substr(0, printed.size() + 8), printed + "3      L");
