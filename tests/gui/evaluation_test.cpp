@@ -78,8 +78,8 @@ TEST_F(EvaluationDesktop, TheMenuDropsBelowTheNumberAndShowsTheDive) {
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);
     dropped = menu->pos();
-    QTest::keyClick(menu, Qt::Key_Down);
-    QTest::keyClick(menu, Qt::Key_Return);
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
   });
   const auto below = button.mapToGlobal(QPoint(0, button.height()));
   mouse(button);

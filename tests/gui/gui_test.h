@@ -70,14 +70,14 @@ class GuiTest : public LogbookTest {
     settle();
   }
   void mouse(const Control& control) { mouse(widget(control)); }
-  /// Sends the keys to whatever has the focus.
+  /// Sends the keys to the window of the system that has them, as a keyboard does; who gets them
+  /// from there is the toolkit's matter, shortcuts included.
   static void keys(const QString& text) {
-    for (const auto character : text)
-      QTest::keyClick(QApplication::focusWidget(), character.toLatin1());
+    for (const auto character : text) QTest::keyClick(keyboard(), character.toLatin1());
     settle();
   }
   static void key(Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(QApplication::focusWidget(), code, modifiers);
+    QTest::keyClick(keyboard(), code, modifiers);
     settle();
   }
   void expectFocus(const Control& control) {
@@ -90,6 +90,13 @@ class GuiTest : public LogbookTest {
   }
 
   std::unique_ptr<QtLooks> looks;
+
+ private:
+  static QWindow* keyboard() {
+    auto* window = QGuiApplication::focusWindow();
+    EXPECT_NE(window, nullptr) << "no window has the keyboard";
+    return window;
+  }
 };
 
 /// The real desktop over a folder of the test; only its boxes are not shown.

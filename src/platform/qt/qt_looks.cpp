@@ -98,9 +98,11 @@ bool pastesHere(const QObject& widget) {
 }  // namespace
 
 // A box keeps Ctrl+V for pasting, and leaves the menu every other command of its bar, also those
-// that the toolkit's boxes know a use of their own for.
+// that the toolkit's boxes know a use of their own for. A key comes by here on its way to the
+// window of the system first: only the widget behind it can say what it wants.
 bool QtLooks::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::ShortcutOverride || frame_ == nullptr) return false;
+  if (event->type() != QEvent::ShortcutOverride || frame_ == nullptr || !watched->isWidgetType())
+    return false;
   const QKeySequence keys(static_cast<QKeyEvent*>(event)->keyCombination());
   if (!frame_->isShortcut(keys)) return false;
   if (keys == QKeySequence(Qt::CTRL | Qt::Key_V) && pastesHere(*watched)) return false;
