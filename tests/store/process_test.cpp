@@ -2,6 +2,7 @@
 
 #if __has_include(<sys/wait.h>)
 
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -11,6 +12,7 @@
 #include <map>
 #include <random>
 
+#include "store/lock.h"
 #include "store/numbering.h"
 
 namespace nautrel {
@@ -25,7 +27,7 @@ class Child {
 
   explicit Child(const std::function<void(const Tell&)>& run) {
     int ends[2];
-    if (pipe(ends) != 0) throw std::runtime_error("no pipe");
+    if (pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
     process_ = fork();
     if (process_ == 0) {
       ::close(ends[0]);
@@ -45,10 +47,13 @@ class Child {
 
   void kill() { ::kill(process_, SIGKILL); }
 
+  /// Waits for the next number that it tells; false at its end.
+  bool next(int& number) { return read(told_, &number, sizeof number) == sizeof number; }
+
   /// Waits for the end; the last number that it told, 0 if none.
   int wait() {
     int number = 0;
-    while (read(told_, &number, sizeof number) == sizeof number) {
+    while (next(number)) {
     }
     waitpid(process_, nullptr, 0);
     return number;
@@ -146,6 +151,46 @@ TEST_F(ProcessTest, OfManyWhoMakeTheLogbookOneSucceeds) {
   EXPECT_EQ(one.wait() + two.wait() + three.wait(), 1);
   EXPECT_EQ(workspace.OpenDatabase(fresh).OpenRecordset(Tabelle::Benutzer).RecordCount(), 1);
   EXPECT_EQ(files().size(), 2U);
+}
+
+TEST_F(ProcessTest, OneProgramAtATimeUntilItsDeath) {
+  const TemporaryFolder elsewhere;
+  const auto link = elsewhere.file("link.mdb");
+  fs::create_symlink(path, link);
+  for (const auto& used : {path, link}) {
+    Child first([&](const Child::Tell& tell) {
+      const LogbookLock lock(used);
+      if (fork() == 0) execlp("sleep", "sleep", "3", nullptr);
+      tell(lock.isInUse() ? 2 : 1);
+      pause();
+    });
+    int told = 0;
+    ASSERT_TRUE(first.next(told));
+    EXPECT_EQ(told, 1);
+    EXPECT_TRUE(LogbookLock(path).isInUse());
+    EXPECT_TRUE(LogbookLock(link).isInUse());
+    first.kill();
+    first.wait();
+    EXPECT_FALSE(LogbookLock(path).isInUse());
+  }
+  EXPECT_EQ(LogbookLock::fileFor(link), home.file("Logbuch.lock"));
+  EXPECT_EQ(LogbookLock::fileFor(elsewhere.file("gone.mdb")), "");
+}
+
+TEST_F(ProcessTest, WhereNothingCanBeLockedTheLogbookIsFree) {
+  fs::permissions(folder, fs::perms::owner_all | fs::perms::others_read | fs::perms::others_exec);
+  Child alone([&](const Child::Tell& tell) {
+    becomeDiver();
+    tell(LogbookLock(path).isInUse() ? 2 : 1);
+  });
+  EXPECT_EQ(alone.wait(), 1);
+  EXPECT_FALSE(fs::exists(LogbookLock::fileFor(path)));
+  const LogbookLock owner(path);
+  Child guest([&](const Child::Tell& tell) {
+    becomeDiver();
+    tell(LogbookLock(path).isInUse() ? 2 : 1);
+  });
+  EXPECT_EQ(guest.wait(), 2);
 }
 
 TEST_F(ProcessTest, AReadOnlyFolderFailsAtOpening) {

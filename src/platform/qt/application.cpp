@@ -9,6 +9,7 @@
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_looks.h"
 #include "shell/Nautrel.h"
+#include "store/lock.h"
 
 // A static library's pictures come in only if they are asked for, and only from outside of any
 // namespace.
@@ -21,6 +22,7 @@ namespace {
 
 constexpr int kStatusAfterFailure = 3;
 constexpr int kCritical = 16;
+constexpr int kExclamation = 48;
 
 int showFailure(const RunTimeError& failure) {
   while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
@@ -29,6 +31,12 @@ int showFailure(const RunTimeError& failure) {
       QStringLiteral("Run-time error '%1':\n\n%2").arg(failure.number).arg(toQt(failure.text)),
       kCritical, QString::fromUtf8(kApplicationTitle));
   return kStatusAfterFailure;
+}
+
+int refuse() {
+  showMessageBox(nullptr, QStringLiteral("This logbook is in use by another Nautrel program."),
+                 kExclamation, QString::fromUtf8(kApplicationTitle));
+  return 0;
 }
 
 }  // namespace
@@ -43,6 +51,8 @@ int runApplication(int argc, char** argv) {
 
   QtDesktop desktop;
   auto nautrel = std::make_unique<Nautrel>(desktop);
+  const LogbookLock lock(nautrel->databasePath());
+  if (lock.isInUse()) return refuse();
   QtLooks looks(*nautrel);
   desktop.setLooks(&looks);
   nautrel->setLooks(&looks);

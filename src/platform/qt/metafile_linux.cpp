@@ -128,8 +128,12 @@ void limit(__rlimit_resource resource, rlim_t most) {
   setrlimit(resource, &both);
 }
 
-// What runs apart may write to no one but its pipe, and may not take the machine along.
-void restrain() {
+// What runs apart may write to no one but its pipe, keeps nothing of the program open, such as the
+// lock of the logbook, and may not take the machine along.
+void restrain(int pipe) {
+  const auto own = static_cast<unsigned>(pipe);
+  if (own > STDERR_FILENO + 1) close_range(STDERR_FILENO + 1, own - 1, 0);
+  close_range(own + 1, ~0U, 0);
   const int nowhere = open("/dev/null", O_RDWR);
   dup2(nowhere, STDOUT_FILENO);
   dup2(nowhere, STDERR_FILENO);
@@ -140,7 +144,7 @@ void restrain() {
 
 // Never returns and lets no exception through: there must not be a second program that goes on.
 [[noreturn]] void convertAndLeave(int pipe, const std::function<QByteArray()>& convert) noexcept {
-  restrain();
+  restrain(pipe);
   const QByteArray bytes = convert();
   for (qsizetype done = 0; done < bytes.size();) {
     const ssize_t written =
