@@ -31,6 +31,7 @@ class QuietDesktop : public Desktop {
   void popup(Menu&, const Control*) override {}
   void print(const std::string&) override {}
   std::string executableFolder() override { return folder_; }
+  std::string executableFile() override { return folder_ + "/nautrel"; }
   ScreenSize screenSize() override { return {}; }
   void endLoop(const std::optional<RunTimeError>&) override {}
 

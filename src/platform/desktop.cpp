@@ -1,6 +1,21 @@
 #include "platform/desktop.h"
 
+#include <algorithm>
+
+#include "platform/files.h"
+
 namespace nautrel {
+namespace {
+
+constexpr int kAskBeforeOverwriting = 2;
+constexpr int kAskToOverwrite = 4 + 48 + 256;  // Yes and No, exclamation, No is the default
+
+std::string withEnding(std::string name, const std::string& ending) {
+  if (!lowerCase(name).ends_with(lowerCase(ending))) name += ending;
+  return name;
+}
+
+}  // namespace
 
 void Desktop::openDoor(bool modal) {
   if (ended_) throw ProgramEnd{};
@@ -28,11 +43,39 @@ std::optional<std::string> Desktop::openFile(const DialogRequest& request) {
   return answer;
 }
 
-std::optional<std::string> Desktop::saveFile(const DialogRequest& request) {
-  openDoor(true);
-  auto answer = askFileToSave(request);
-  openDoor();
-  return answer;
+std::optional<std::string> Desktop::saveFile(DialogRequest request) {
+  for (;;) {
+    openDoor(true);
+    const auto answer = askFileToSave(request);
+    openDoor();
+    if (!answer) return {};
+    auto name = withEnding(*answer, request.ending);
+    if (accepts(name, request)) return name;
+    request.fileName = std::move(name);
+  }
+}
+
+bool Desktop::accepts(const std::string& name, const DialogRequest& request) {
+  const auto file = nativePath(name);
+  const auto isIt = [&](const auto& own) { return sameFile(file, own); };
+  if (std::any_of(ownFiles_.begin(), ownFiles_.end(), isIt)) {
+    MsgBox("'" + name + "' belongs to Nautrel itself. Please choose another name.");
+    return false;
+  }
+  if (!canBeWritten(file)) {
+    MsgBox("'" + name + "' cannot be written. Please choose another name.");
+    return false;
+  }
+  std::error_code unknown;
+  const bool asks = (request.flags & kAskBeforeOverwriting) != 0;
+  return !asks || !std::filesystem::exists(file, unknown) ||
+         MsgBox("'" + name + "' already exists. Do you want to replace it?", kAskToOverwrite,
+                request.title) == kYes;
+}
+
+void Desktop::setOwnFiles(const std::vector<std::string>& paths) {
+  ownFiles_.clear();
+  for (const auto& path : paths) ownFiles_.push_back(nativePath(path));
 }
 
 std::optional<long> Desktop::chooseColor(long color) {
@@ -100,6 +143,11 @@ void Desktop::printText(const std::string& text) {
 std::string Desktop::applicationPath() {
   openDoor();
   return executableFolder();
+}
+
+std::string Desktop::executable() {
+  openDoor();
+  return executableFile();
 }
 
 ScreenSize Desktop::screen() {

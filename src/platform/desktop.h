@@ -1,8 +1,10 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/errors.h"
 #include "platform/picture.h"
@@ -27,12 +29,14 @@ inline constexpr int kNo = 7;
 /// @}
 
 /// What a common dialog is opened with. `flags`: 2 asks before overwriting, 4 hides the read-only
-/// box. `filter` is "text|pattern;pattern".
+/// box. `filter` is "text|pattern;pattern"; `ending`, as ".txt", is what a name to save to gets if
+/// it has it not.
 struct DialogRequest {
   std::string title = {};
   std::string filter = {};
   std::string fileName = {};
   int flags = 0;
+  std::string ending = {};
 };
 
 enum class ReportDestination { Preview = 0, Printer = 1 };
@@ -65,7 +69,9 @@ class Desktop {
   std::string InputBox(const std::string& prompt, const std::string& title);
   /// Modal; nothing if cancelled.
   std::optional<std::string> openFile(const DialogRequest& request);
-  std::optional<std::string> saveFile(const DialogRequest& request);
+  /// The final name, its ending included. A file of the program's own, and one that plainly cannot
+  /// be written, is never among the answers: it is refused in a box, and the dialog comes again.
+  std::optional<std::string> saveFile(DialogRequest request);
   std::optional<long> chooseColor(long color);
   bool setUpPrinter();
 
@@ -87,11 +93,16 @@ class Desktop {
   void printText(const std::string& text);
   /// The executable's folder, without a separator at its end.
   std::string applicationPath();
+  /// The executable's own file.
+  std::string executable();
   ScreenSize screen();
 
   /// Ends the program, with the run-time's message for a failure.
   void end(const std::optional<RunTimeError>& failure = {});
   bool ended() const { return ended_; }
+
+  /// The files that no save dialog hands back, by any spelling or link, whether they exist or not.
+  void setOwnFiles(const std::vector<std::string>& paths);
 
   /// Called before anything modal opens.
   std::function<void()> beforeBox;
@@ -100,6 +111,7 @@ class Desktop {
   virtual int showMessage(const std::string& prompt, int style, const std::string& title) = 0;
   virtual std::string askText(const std::string& prompt, const std::string& title) = 0;
   virtual std::optional<std::string> askFileToOpen(const DialogRequest& request) = 0;
+  /// Asks nothing about overwriting; the door does so about the final name.
   virtual std::optional<std::string> askFileToSave(const DialogRequest& request) = 0;
   virtual std::optional<long> askColor(long color) = 0;
   virtual bool askPrinter() = 0;
@@ -115,14 +127,17 @@ class Desktop {
   virtual void popup(Menu& menu, const Control* above) = 0;
   virtual void print(const std::string& text) = 0;
   virtual std::string executableFolder() = 0;
+  virtual std::string executableFile() = 0;
   virtual ScreenSize screenSize() = 0;
   /// The program ends once the handlers on the way have returned.
   virtual void endLoop(const std::optional<RunTimeError>& failure) = 0;
 
  private:
   void openDoor(bool modal = false);
+  bool accepts(const std::string& name, const DialogRequest& request);
 
   bool ended_ = false;
+  std::vector<std::filesystem::path> ownFiles_;
 };
 
 /// A common dialog of a window: its design data and what it last brought back.

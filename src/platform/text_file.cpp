@@ -4,17 +4,11 @@
 #include <iterator>
 
 #include "platform/errors.h"
+#include "platform/files.h"
 #include "platform/text.h"
 
 namespace nautrel {
 namespace fs = std::filesystem;
-namespace {
-
-fs::path nativePath(const std::string& path) {
-  return fs::path(std::u8string(path.begin(), path.end()));
-}
-
-}  // namespace
 
 TextFile::TextFile(const std::string& path) {
   const auto native = nativePath(path);

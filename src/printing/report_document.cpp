@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "platform/errors.h"
+#include "platform/files.h"
 #include "printing/list_template.h"
 #include "printing/selection_formula.h"
 #include "store/contract.h"
@@ -20,10 +21,6 @@ using mustache::data;
 
 /// Parts the cells of a row that is rendered as one text; no value holds it.
 constexpr char kCellEnd = '\x1F';
-
-fs::path nativePath(const std::string& path) {
-  return fs::path(std::u8string(path.begin(), path.end()));
-}
 
 std::string readTemplate(const std::string& path) {
   static constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";

@@ -15,6 +15,7 @@
 #include "evaluation/Form10.h"
 #include "evaluation/Form11.h"
 #include "evaluation/Form6.h"
+#include "platform/files.h"
 #include "printing/Form9.h"
 #include "search/Form12.h"
 #include "search/Form14.h"
@@ -37,7 +38,10 @@ Nautrel::~Nautrel() {
 }
 
 void Nautrel::start() {
-  handle([this] { Form1().Show(); });
+  handle([this] {
+    desktop().setOwnFiles(ownFiles());
+    Form1().Show();
+  });
 }
 
 class MDIForm1& Nautrel::MDIForm1() {
@@ -150,6 +154,20 @@ void Nautrel::show(int number) {
     default:
       return;
   }
+}
+
+// The database engine keeps its side files where a linked logbook really is.
+std::vector<std::string> Nautrel::ownFiles() {
+  std::vector<std::string> files = {desktop().executable()};
+  for (const char* name :
+       {"Logbuch.lock", "Liste.rpt", "Statistik.rpt", "Benutzer.rpt", "nautrel.rtf"})
+    files.push_back(besideExecutable(name));
+  const auto logbook = followLinks(nativePath(databasePath())).u8string();
+  for (const char* side : {"", "-wal", "-shm", "-journal"}) {
+    files.push_back(databasePath() + side);
+    files.push_back(std::string(logbook.begin(), logbook.end()) + side);
+  }
+  return files;
 }
 
 std::string Nautrel::databasePath() {

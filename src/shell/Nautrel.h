@@ -79,6 +79,8 @@ class Nautrel : public Program {
 
  private:
   void settle() override { workspace_.settle(); }
+  /// The files that nothing the user saves may replace.
+  std::vector<std::string> ownFiles();
 
   Workspace workspace_;
   std::unique_ptr<class Modul1> modul_;

@@ -6,6 +6,7 @@
 #include "dives/Form4.h"
 #include "dives/Form5.h"
 #include "evaluation/evaluation_test.h"
+#include "support/unwritable.h"
 
 namespace nautrel {
 namespace {
@@ -178,23 +179,22 @@ TEST_F(Statistic, SavedOneDive) {
 TEST_F(Statistic, SavedWithCommaOverALongerFile) {
   addWideFigures();
   folder.write("chosen.txt", std::string(5000, 'x'));
+  desktop->answer(kYes);
   EXPECT_EQ(saved(), asBytes(kWideFigures));
 }
 
 TEST_F(Statistic, ACancelledDialogOrAFileThatCannotBeWrittenPassesUnsaid) {
   add(dive(7, "60", "30"));
-  folder.write("chosen.txt", "before");
-  auto& form = open();
-  desktop->answerFile(chosen());
-  click(form.Command3);
+  saved();
+  auto& form = app->Form6();
   folder.write("chosen.txt", "edited");
-  for (const auto& answer : std::vector<std::optional<std::string>>{
-           {}, folder.file("no folder/chosen.txt"), folder.path()}) {
-    desktop->answerFile(answer);
-    click(form.Command3);
-  }
+  const auto broken = unwritable(folder.file("socket"));
+  desktop->answerFile({}).answerFile(broken).answer(kYes);
+  click(form.Command3);
+  click(form.Command3);
+  EXPECT_EQ(desktop->texts(), std::vector<std::string>{
+                                  "'" + broken + "' already exists. Do you want to replace it?"});
   EXPECT_EQ(readFile(chosen()), "edited");
-  EXPECT_TRUE(desktop->messages().empty());
   EXPECT_TRUE(app->loaded(6));
 }
 

@@ -104,11 +104,18 @@ class FolderDesktop : public QtDesktop {
  public:
   explicit FolderDesktop(std::string folder) : folder_(std::move(folder)) {}
   std::vector<std::string> told;
+  std::deque<std::string> files;  // what the save dialogs to come give; without one, cancelled
 
  protected:
   int showMessage(const std::string& prompt, int, const std::string&) override {
     told.push_back(prompt);
     return kOk;
+  }
+  std::optional<std::string> askFileToSave(const DialogRequest&) override {
+    if (files.empty()) return {};
+    const auto file = files.front();
+    files.pop_front();
+    return file;
   }
   std::string readSetting(const std::string&, const std::string&) override { return {}; }
   std::string executableFolder() override { return folder_; }

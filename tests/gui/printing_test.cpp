@@ -5,11 +5,14 @@
 #include <QPrinterInfo>
 #include <QScrollArea>
 #include <QSpinBox>
+#include <QTimer>
+#include <filesystem>
 #include <set>
 
 #include "gui_test.h"
 #include "platform/qt/report_pages.h"
 #include "platform/qt/report_preview.h"
+#include "store/delivered.h"
 
 namespace nautrel {
 namespace {
@@ -254,6 +257,28 @@ TEST(ReportRun, AMissingTemplateIsToldByItsName) {
   ASSERT_EQ(desktop.told.size(), 1U);
   EXPECT_NE(desktop.told.front().find(folder.file("Liste.rpt")), std::string::npos);
   EXPECT_FALSE(desktop.ended());
+}
+
+TEST(ReportRun, SavesAsPdfThroughTheDoor) {
+  const TemporaryFolder folder;
+  FolderDesktop desktop(folder.path());
+  const auto logbook = folder.file("Logbuch.mdb");
+  createDeliveredLogbook(logbook);
+  std::filesystem::create_symlink(logbook, folder.file("own.pdf"));
+  const auto before = readFile(logbook);
+  desktop.setOwnFiles({logbook});
+  desktop.files = {folder.file("own"), folder.file("card")};
+  QTimer::singleShot(0, [] {
+    auto& preview = dynamic_cast<ReportPreview&>(*QApplication::activeModalWidget());
+    for (auto* action : preview.findChildren<QAction*>())
+      if (action->text() == "Save as PDF...") action->trigger();
+    preview.reject();
+  });
+  desktop.runReport({.templatePath = folder.write("Benutzer.rpt", "<p>A card</p>")});
+  ASSERT_EQ(desktop.told.size(), 1U);
+  EXPECT_TRUE(desktop.told.front().starts_with("'" + folder.file("own.pdf") + "' belongs"));
+  EXPECT_EQ(readFile(logbook), before);
+  EXPECT_TRUE(readFile(folder.file("card.pdf")).starts_with("%PDF-"));
 }
 
 TEST(ReportRun, WithoutAPrinterNothingIsPrinted) {

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "support/logbook.h"
+#include "support/unwritable.h"
 
 namespace nautrel {
 namespace {
@@ -131,8 +132,8 @@ class ListFile : public PrintDiveList {
     form.Text2.setText(last);
     return save(form);
   }
-  std::string save(Form9& form, const char* file = "list.txt") {
-    const auto path = folder.file(file);
+  std::string save(Form9& form) { return save(form, folder.file("list.txt")); }
+  std::string save(Form9& form, const std::string& path) {
     desktop->answerFile(path);
     click(form.Command3);
     EXPECT_EQ(desktop->texts(), Texts{"The list was saved as " + path + kSaved});
@@ -227,7 +228,7 @@ TEST_F(ListFile, AsksForAFileAndReplacesItUnaskedUnlessCancelled) {
 
 TEST_F(ListFile, SaysSavedWhateverBecameOfTheFile) {
   auto& form = openWith(1, 1);
-  EXPECT_EQ(save(form, "no such folder/list.txt"), "");
+  EXPECT_EQ(save(form, unwritable(folder.file("socket"))), "");
   std::filesystem::remove(folder.file("Logbuch.mdb"));
   EXPECT_EQ(save(form), head("3/5/2001 2:07:09 PM"));
 }

@@ -89,6 +89,7 @@ class ScriptedDesktop : public Desktop {
   void popup(Menu& menu, const Control* above) override;
   void print(const std::string& text) override { printed.push_back(text); }
   std::string executableFolder() override { return folder_; }
+  std::string executableFile() override { return folder_ + "/nautrel"; }
   ScreenSize screenSize() override { return size; }
   void endLoop(const std::optional<RunTimeError>& failure) override { failure_ = failure; }
 

@@ -27,8 +27,6 @@
 namespace nautrel {
 namespace {
 
-constexpr int kAskBeforeOverwriting = 2;
-
 /// In device pixels.
 QSize largestScreen() {
   QSize largest;
@@ -92,12 +90,9 @@ std::optional<std::string> QtDesktop::askFileToOpen(const DialogRequest& request
 }
 
 std::optional<std::string> QtDesktop::askFileToSave(const DialogRequest& request) {
-  const auto options = (request.flags & kAskBeforeOverwriting) != 0
-                           ? QFileDialog::Options()
-                           : QFileDialog::Options(QFileDialog::DontConfirmOverwrite);
-  const auto file =
-      QFileDialog::getSaveFileName(parentWindow(), toQt(request.title), toQt(request.fileName),
-                                   nameFilter(request.filter), nullptr, options);
+  const auto file = QFileDialog::getSaveFileName(parentWindow(), toQt(request.title),
+                                                 toQt(request.fileName), nameFilter(request.filter),
+                                                 nullptr, QFileDialog::DontConfirmOverwrite);
   if (file.isEmpty()) return {};
   return fromQt(QDir::toNativeSeparators(file));
 }
@@ -155,6 +150,10 @@ QPoint QtDesktop::popupPlace(const Control* above) const {
 
 std::string QtDesktop::executableFolder() {
   return fromQt(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()));
+}
+
+std::string QtDesktop::executableFile() {
+  return fromQt(QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
 }
 
 ScreenSize QtDesktop::screenSize() {

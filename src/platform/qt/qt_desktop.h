@@ -41,6 +41,7 @@ class QtDesktop : public Desktop {
   void popup(Menu& menu, const Control* above) override;
   void print(const std::string& text) override;
   std::string executableFolder() override;
+  std::string executableFile() override;
   ScreenSize screenSize() override;
   void endLoop(const std::optional<RunTimeError>& failure) override;
 

@@ -1,4 +1,3 @@
-#include <QFileDialog>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -34,17 +33,21 @@ void printOn(QPrinter& printer, const ReportPages& pages, const QString& title) 
 void printAsked(const PrinterSetUp& setUp, const ReportPages& pages, ReportPreview& preview) {
   const auto printer = printerOf(setUp);
   QPrintDialog dialog(printer.get(), &preview);
+  // Its own way into a file would pass the door; the preview has "Save as PDF" for that.
+  dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange);
   dialog.setMinMax(1, pages.count());
   if (dialog.exec() == QDialog::Accepted) printOn(*printer, pages, preview.windowTitle());
 }
 
-void saveAsked(const ReportPages& pages, ReportPreview& preview) {
-  const auto path =
-      QFileDialog::getSaveFileName(&preview, QStringLiteral("Save as PDF"),
-                                   preview.windowTitle() + ".pdf", QStringLiteral("PDF (*.pdf)"));
-  if (!path.isEmpty() && !savePdf(pages, path, preview.windowTitle()))
-    throw ReportFault{"The file " + fromQt(path) + " cannot be written."};
+void saveAsked(Desktop& desktop, const ReportPages& pages, const QString& title) {
+  const auto path = desktop.saveFile({.title = "Save as PDF",
+                                      .filter = "PDF|*.pdf",
+                                      .fileName = fromQt(title) + ".pdf",
+                                      .flags = 2,
+                                      .ending = ".pdf"});
+  if (path && !savePdf(pages, toQt(*path), title))
+    throw ReportFault{"The file " + *path + " cannot be written."};
 }
 
 }  // namespace
@@ -60,7 +63,7 @@ void QtDesktop::telling(const std::function<void()>& step) {
 void QtDesktop::preview(const ReportPages& pages, const QString& title) {
   ReportPreview window(pages, title, parentWindow());
   window.print = [&] { telling([&] { printAsked(printer_, pages, window); }); };
-  window.save = [&] { telling([&] { saveAsked(pages, window); }); };
+  window.save = [&] { telling([&] { saveAsked(*this, pages, title); }); };
   window.exec();
 }
 
