@@ -46,7 +46,11 @@ void Form2::Form_Load() {
   resumeNext([&] { Text1.setText(text(rows.Fields("Nr").number(locale()) + 1)); });
   resumeNext([&] { app_.Modul1().LogbuchPruefen(); });
   if (app_.Modul1().LogbuchLeer) return;
-  if (!trueOrFails([&] { return rows.Fields("Nr").number(locale()) > kLastButOneNumber; })) return;
+  const auto full = [&] {
+    const auto last = rows.Fields("Nr");
+    return !last.isNull() && last.number(locale()) > kLastButOneNumber;
+  };
+  if (!trueOrFails(full)) return;
   MsgBox(
       "The last dive number is over 9998. You could not enter more than 9999 dives. "
       "Please select 'Sort logbook' and enter a lower start number. ");

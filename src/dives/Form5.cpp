@@ -146,13 +146,15 @@ void Form5::Command4_Click() {
   closeIfEmpty();
 }
 
-// The first number is compared as text and the last one as a number. A number that is missing runs
-// off the last row, and that ends the program.
+// The first number is compared as text and the last one as a number, and a dive without a number is
+// neither. A number that is missing runs off the last row, and that ends the program.
 void Form5::deleteRange() {
   auto& dives = Data1.Recordset();
+  const double last = number(Text7.text());
   const auto onFirst = [&] { return dives.Fields(Feld::Nr).joined(locale()) == Text6.text(); };
   const auto onLast = [&] {
-    return dives.Fields(Feld::Nr).number(locale()) == number(Text7.text());
+    const auto stored = dives.Fields(Feld::Nr);
+    return !stored.isNull() && stored.number(locale()) == last;
   };
   dives.MoveFirst();
   while (!onFirst()) dives.MoveNext();

@@ -363,8 +363,7 @@ void ProgressBar::setMax(double max) {
 }
 
 void ProgressBar::setValue(double value) {
-  if (value < 0 || value > max_) raise(InvalidPropertyValue);
-  value_ = value;
+  value_ = std::clamp(value, 0.0, max_);
   Refresh();
 }
 

@@ -298,7 +298,7 @@ class ProgressBar : public Control {
   double Value() const { return value_; }
   /// Raises 380 for a maximum that is not above 0.
   void setMax(double max);
-  /// Raises 380 outside 0 to Max.
+  /// A value outside 0 to Max is taken to the nearest end.
   void setValue(double value);
 
  private:

@@ -52,8 +52,8 @@ void Form9::Form_Load() {
   CrystalReport1.setReportFileName(app_.besideExecutable("Liste.rpt"));
   auto& shared = app_.Modul1();
   shared.NummernLesen();
-  Text1.setText(shared.ErsteNummer.text(locale()));
-  Text2.setText(shared.LetzteNummer.text(locale()));
+  Text1.setText(shared.ErsteNummer.joined(locale()));
+  Text2.setText(shared.LetzteNummer.joined(locale()));
 }
 
 void Form9::Überprüfen() {

@@ -61,8 +61,8 @@ void SearchForm::Form_Load() {
   placeInFrame(*this, app_.MDIForm1());
   auto& shared = app_.Modul1();
   shared.NummernLesen();
-  Text1.setText(shared.ErsteNummer.text(locale()));
-  Text2.setText(shared.LetzteNummer.text(locale()));
+  Text1.setText(shared.ErsteNummer.joined(locale()));
+  Text2.setText(shared.LetzteNummer.joined(locale()));
 }
 
 void SearchForm::Form_Unload() {

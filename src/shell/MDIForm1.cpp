@@ -136,14 +136,10 @@ void MDIForm1::Form_Load() {
   {
     auto rows = app_.workspace().OpenDatabase(app_.databasePath()).OpenRecordset("Logbuch", {"Nr"});
     shared.LogbuchPruefen();
-    if (!shared.LogbuchLeer) {
-      const double expected =
-          shared.LetzteNummer.number(locale()) - shared.ErsteNummer.number(locale()) + 1;
-      if (rows.RecordCount() != expected)
-        MsgBox(
-            "Attention! The dives are not sorted correctly. Please select 'Sort logbook'. "
-            "Otherwise there could be program errors.");
-    }
+    if (!shared.LogbuchLeer && !isSorted(rows.RecordCount()))
+      MsgBox(
+          "Attention! The dives are not sorted correctly. Please select 'Sort logbook'. "
+          "Otherwise there could be program errors.");
   }
   shared.LogbuchPruefen();
   if (shared.LogbuchLeer) shared.MenuesSperren();
@@ -152,6 +148,14 @@ void MDIForm1::Form_Load() {
   applyBackground();
   Show();
   shared.Startfenster();
+}
+
+// What is no number must not keep the diver from "Sort logbook", which mends it.
+bool MDIForm1::isSorted(int dives) const {
+  const auto& shared = app_.Modul1();
+  const auto first = tryNumber(shared.ErsteNummer.joined(locale()));
+  const auto last = tryNumber(shared.LetzteNummer.joined(locale()));
+  return first && last && *last - *first + 1 == dives;
 }
 
 void MDIForm1::applySize() {

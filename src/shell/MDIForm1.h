@@ -121,6 +121,7 @@ class MDIForm1 : public Form {
   void command(int number);
   void showBeside(int number);
   void insertDive(const char* refusal);
+  bool isSorted(int dives) const;
   void applySize();
   /// Shows the record dive whose number button the statistic's user pressed last.
   void showRecordDive(int window);

@@ -131,6 +131,11 @@ TEST_F(InsertDive, TheNumberFollowsTheLastRowAndNotTheHighest) {
   EXPECT_EQ(form.Text1.text(), "8");
   type(form.Text1, "5");
   EXPECT_EQ(form.Text1.text(), "8");
+  close(form);
+  add({{"Nr", Value::null()}});
+  click(app->MDIForm1().Menü2a);
+  EXPECT_EQ(app->Form2().Text1.text(), "1");
+  EXPECT_EQ(desktop->texts(), Texts{});
 }
 
 TEST_F(InsertDive, ALogbookThatCannotBeReachedEndsTheProgramAndKeepsItsDives) {

@@ -187,6 +187,22 @@ TEST_F(DeleteDive, AMissingNumberEndsTheProgramAndWhatWasDeletedStaysDeleted) {
   EXPECT_EQ(column("Nr"), Texts{"1"});
 }
 
+TEST_F(DeleteDive, ADiveWithoutANumberIsNeitherEndOfARange) {
+  for (const auto* number : {"1", "", "3", "", "5", ""}) {
+    auto dive = someDive(1);
+    dive["Nr"] = *number == '\0' ? Value::null() : Value(number);
+    add(dive);
+  }
+  auto& form = open();
+  expectTested(form, {{"3", "5", {kFirst, kLast}}});
+  add({{"Nr", "7"}});
+  enterRange(form, "3", "5");
+  desktop->answer(kYes);
+  click(form.Command4);
+  EXPECT_EQ(rows("Logbuch", {"Nr", "Ort"}),
+            (std::vector<Texts>{{"1", "Ort 1"}, {"2", "Ort 1"}, {"3", "Ort 1"}, {"4", "NULL"}}));
+}
+
 TEST_F(DeleteDive, TheBoxesTakeWholeNumbersAndTheSpinButtonsKeepToTheLogbook) {
   addDives(5, 7);
   auto& form = open();

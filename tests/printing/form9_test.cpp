@@ -90,6 +90,16 @@ TEST_F(PrintDiveList, TellsEveryFaultOfTheRange) {
   }
 }
 
+TEST_F(PrintDiveList, ARangeWithoutANumberAtItsEndStaysEmptyAndIsRefused) {
+  add({{"Nr", Value::null()}});
+  auto& form = openWith(2, 3);
+  EXPECT_EQ((Texts{form.Text1.text(), form.Text2.text()}), (Texts{"", "3"}));
+  desktop->messages();
+  form.Text1.setText("2");
+  click(form.Command1);
+  EXPECT_EQ(desktop->texts(), (Texts{"First dive-# not valid", "Last dive-# not valid"}));
+}
+
 TEST_F(PrintDiveList, PreviewRunsTheReportOverTheRange) {
   auto& form = openWith(1, 25);
   EXPECT_EQ(form.Text1.text(), "1");

@@ -60,6 +60,23 @@ TEST_F(SearchRange, IsComparedAsTextBelowAndAsNumbersAbove) {
       {{"10", "12", {kFirst, kLast}, "falsch letzter"}, {"4", "9", {kFirst}, "falsch erster"}});
 }
 
+TEST_F(SearchRange, IsEmptyWhereTheLogbookHasNoNumberAndRefused) {
+  add({{"Nr", Value::null()}});
+  add({{"Nr", "2"}});
+  start();
+  desktop->messages();
+  const auto expectEmpty = [](const SearchForm& form) {
+    EXPECT_EQ((Texts{form.Text1.text(), form.Text2.text()}), (Texts{"", "2"})) << form.name();
+  };
+  expectEmpty(words());
+  expectEmpty(numbers());
+  expectEmpty(everything());
+  expectChecked({{"1", "2", {kFirst, kLast}, "falsch letzter"}});
+  add({{"Nr", Value::null()}});
+  EXPECT_EQ(words().Text2.text(), "");
+  expectChecked({{"2", "2", {kFirst, kLast}, "falsch letzter"}});
+}
+
 TEST_F(SearchTest, BoxesOfTheRangeTakeWholeNumbersAloneButNotInTheFullSearch) {
   startWith({{}});
   const std::pair<const char*, const char*> cases[] = {

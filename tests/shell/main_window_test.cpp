@@ -34,7 +34,7 @@ TEST_F(MainWindow, TheSplashStandsInTheMiddleAndGivesWayToTheMainWindow) {
 }
 
 struct CountCase {
-  Texts numbers;
+  std::vector<Value> numbers;
   std::vector<Shown> messages;
   const char* status;
 };
@@ -49,12 +49,18 @@ TEST_P(Count, IsHeldAgainstTheRangeAtTheStart) {
   EXPECT_EQ(frame().Menü2b.enabled(), !GetParam().numbers.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Logbooks, Count,
-                         ::testing::Values(CountCase{{}, {}, "0"},
-                                           CountCase{{"5", "6"}, {}, "2 (5 to 6)"},
-                                           CountCase{{"1", "3"}, {{kNotSorted}}, "2 (1 to 3)"},
-                                           // A gap and a double that cancel each other pass.
-                                           CountCase{{"1", "1", "3"}, {}, "3 (1 to 3)"}));
+INSTANTIATE_TEST_SUITE_P(
+    Logbooks, Count,
+    ::testing::Values(CountCase{{}, {}, "0"}, CountCase{{"5", "6"}, {}, "2 (5 to 6)"},
+                      CountCase{{"1", "3"}, {{kNotSorted}}, "2 (1 to 3)"},
+                      // A gap and a double that cancel each other pass.
+                      CountCase{{"1", "1", "3"}, {}, "3 (1 to 3)"},
+                      // What is no number is not sorted, and no more.
+                      CountCase{{Value::null(), "2"}, {{kNotSorted}}, "2 ( to 2)"},
+                      CountCase{{"1", Value::null()}, {{kNotSorted}}, "2 (1 to )"},
+                      CountCase{{"", "2"}, {{kNotSorted}}, "2 ( to 2)"},
+                      CountCase{{"1", "abc"}, {{kNotSorted}}, "2 (1 to abc)"},
+                      CountCase{{"1", "1e999"}, {{kNotSorted}}, "2 (1 to 1e999)"}));
 
 TEST_F(MainWindow, AnEmptyLogbookLocksExactlyWhatNeedsDives) {
   start();
