@@ -79,7 +79,15 @@ bool Cursor::step() {
 }
 
 void Cursor::fetch(std::int64_t row) {
-  if (seek(row) && row_ == row) return;
+  const auto place = place_;
+  const auto before = row_;
+  try {
+    if (seek(row) && row_ == row) return;
+  } catch (const RunTimeError&) {
+    place_ = place;
+    row_ = before;
+    throw;
+  }
   walk_.reset();
   live_ = false;
   row_ = row;

@@ -51,7 +51,8 @@ class Cursor {
   bool seek(std::int64_t from);
   /// The row after the one on which the walk stands.
   bool step();
-  /// Reads this very row again; marks it as deleted if it is gone.
+  /// Reads this very row again; marks it as deleted if it is gone. Without effect where it fails;
+  /// the row before must be released.
   void fetch(std::int64_t row);
   void release();
   bool live() const { return live_; }

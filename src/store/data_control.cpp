@@ -18,9 +18,9 @@ class Recordset& DataControl::Recordset() {
 }
 
 void DataControl::Refresh() {
+  auto opened = workspace_.OpenDatabase(databaseName_).OpenDynaset(recordSource_);
   reader_.reset();
-  recordset_.reset();
-  recordset_ = workspace_.OpenDatabase(databaseName_).OpenDynaset(recordSource_);
+  recordset_ = std::move(opened);
   recordset_->moved = [this] { raiseEvent(Reposition); };
   if (!recordset_->Eof()) recordset_->MoveFirst();
   raiseEvent(Filled);
@@ -29,17 +29,21 @@ void DataControl::Refresh() {
 // The arrows stop at the ends; a press there shows the row afresh.
 void DataControl::go(Arrow arrow) {
   auto& rows = Recordset();
-  if (rows.RecordCount() == 0) return;
-  switch (arrow) {
-    case Arrow::First:
-      return rows.MoveFirst();
-    case Arrow::Last:
-      return rows.MoveLast();
-    case Arrow::Previous:
-      return rows.Move(rows.AbsolutePosition() > 0 ? -1 : 0);
-    case Arrow::Next:
-      return rows.Move(rows.AbsolutePosition() + 1 < rows.RecordCount() ? 1 : 0);
-  }
+  const int count = rows.RecordCount();
+  const int position = rows.AbsolutePosition();
+  if (count == 0) return;
+  if (arrow == Arrow::First) return rows.MoveFirst();
+  if (arrow == Arrow::Last) return rows.MoveLast();
+  if (position < 0) return toNearestRow();
+  if (arrow == Arrow::Previous) return rows.Move(position > 0 ? -1 : 0);
+  rows.Move(position + 1 < count ? 1 : 0);
+}
+
+/// From a deleted row to the one that followed; from behind the last row back onto it.
+void DataControl::toNearestRow() {
+  auto& rows = Recordset();
+  if (!rows.Eof()) rows.MoveNext();
+  if (rows.Eof()) rows.MoveLast();
 }
 
 class Recordset& DataControl::reader() {

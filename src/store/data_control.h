@@ -19,7 +19,7 @@ class DataControl : public Navigator, public GridSource {
   void setDatabaseName(std::string path) { databaseName_ = std::move(path); }
   /// Raises 91 before the control has opened.
   class Recordset& Recordset();
-  /// Reopens and stands on the first row.
+  /// Reopens and stands on the first row. Where that fails the rows of before stay.
   void Refresh();
 
   /// Raised after opening, Refresh and every move that ends on a row.
@@ -34,6 +34,7 @@ class DataControl : public Navigator, public GridSource {
 
  private:
   class Recordset& reader();
+  void toNearestRow();
 
   Workspace& workspace_;
   std::string databaseName_;

@@ -83,7 +83,7 @@ class Recordset {
   /// Raises 3021 on the first row and stays there; Bof is no place to stand on.
   void MovePrevious();
   /// Moves by `rows`, also backwards; 0 fetches the row again. Beyond either end it raises 3021 and
-  /// leaves no current row.
+  /// has no effect: the row stays the current one, and what is pending on it stays pending.
   void Move(int rows);
 
   /// A column's value by ordinal or name: text, Null or a flag. Raises 3021 (no current row), 3167

@@ -25,43 +25,28 @@ int Dynaset::position() {
 }
 
 void Dynaset::first() {
-  drop();
-  if (rows_.empty()) raise(NoCurrentRecord);
   goTo(0);
 }
 
 void Dynaset::last() {
-  drop();
-  if (rows_.empty()) raise(NoCurrentRecord);
-  goTo(size() - 1);
+  goTo(size() - 1LL);
 }
 
 void Dynaset::next() {
-  drop();
   if (atEnd()) raise(NoCurrentRecord);
   const auto index = target(1);
-  if (index == size())
-    leave(Place::End);
-  else
-    goTo(index);
+  if (index < size()) return goTo(index);
+  leave(Place::End);
+  drop();
 }
 
 void Dynaset::previous() {
-  drop();
-  const auto index = target(-1);
-  if (index < 0) raise(NoCurrentRecord);
-  goTo(index);
+  goTo(target(-1));
 }
 
 void Dynaset::move(int rows) {
-  drop();
   if (rows == 0 && inGap_) raise(RecordDeleted);
-  const auto index = target(rows);
-  if (index < 0 || index >= size()) {
-    leave(index < 0 ? Place::Before : Place::End);
-    raise(NoCurrentRecord);
-  }
-  goTo(index);
+  goTo(target(rows));
 }
 
 long long Dynaset::target(int rows) const {
@@ -71,10 +56,12 @@ long long Dynaset::target(int rows) const {
 }
 
 void Dynaset::goTo(long long index) {
+  if (index < 0 || index >= size()) raise(NoCurrentRecord);
+  fetch(rows_[static_cast<std::size_t>(index)]);
   index_ = static_cast<int>(index);
   inGap_ = false;
-  fetch(rows_[static_cast<std::size_t>(index)]);
   release();
+  drop();
 }
 
 void Dynaset::leave(Place end) {

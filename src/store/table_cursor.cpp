@@ -37,63 +37,66 @@ int TableCursor::position() {
 }
 
 void TableCursor::first() {
-  drop();
   if (!seek(kFirstRow)) raise(NoCurrentRecord);
+  drop();
 }
 
 void TableCursor::last() {
-  drop();
-  const auto row = rowUpTo(kLastRow);
-  if (!row) raise(NoCurrentRecord);
-  seek(*row);
+  goTo(rowUpTo(kLastRow, 0));
 }
 
 void TableCursor::next() {
-  drop();
   if (atEnd()) raise(NoCurrentRecord);
-  forward();
+  drop();
+  if (place_ == Place::Before)
+    seek(kFirstRow);
+  else
+    live() ? step() : seek(row_ + 1);
 }
 
 void TableCursor::previous() {
-  drop();
-  if (!backward()) raise(NoCurrentRecord);
+  move(-1);
 }
 
 void TableCursor::move(int rows) {
-  drop();
+  const bool nowhere = place_ == Place::Before || atEnd();
+  if (rows == 0 && nowhere) raise(NoCurrentRecord);
   if (rows == 0) {
-    if (place_ == Place::Before || place_ == Place::End) raise(NoCurrentRecord);
+    release();
     fetch(row_);
+    drop();
+  } else if (rows > 0) {
+    goTo(atEnd() ? std::nullopt : rowFrom(nowhere ? kFirstRow : row_ + 1, rows - 1));
+  } else {
+    const bool before = place_ == Place::Before;
+    goTo(before ? std::nullopt : rowUpTo(nowhere ? kLastRow : row_ - 1, -1LL - rows));
   }
-  for (; rows > 0; --rows)
-    if (!forward()) raise(NoCurrentRecord);
-  for (; rows < 0; ++rows) {
-    if (backward()) continue;
-    place_ = Place::Before;
-    raise(NoCurrentRecord);
-  }
 }
 
-bool TableCursor::forward() {
-  if (atEnd()) return false;
-  if (place_ == Place::Before) return seek(kFirstRow);
-  return live() ? step() : seek(row_ + 1);
+void TableCursor::goTo(std::optional<std::int64_t> row) {
+  if (!row) raise(NoCurrentRecord);
+  seek(*row);
+  drop();
 }
 
-bool TableCursor::backward() {
-  if (place_ == Place::Before) return false;
-  const auto row = rowUpTo(atEnd() ? kLastRow : row_ - 1);
-  return row && seek(*row);
+std::optional<std::int64_t> TableCursor::rowFrom(std::int64_t limit, std::int64_t skipped) {
+  return rowBeside(forwards_, ">= ?1 ORDER BY rowid", limit, skipped);
 }
 
-std::optional<std::int64_t> TableCursor::rowUpTo(std::int64_t limit) {
-  if (!backwards_)
-    backwards_ = Statement(*connection_, "SELECT rowid FROM " + sqlName(table_) +
-                                             " WHERE rowid <= ?1 ORDER BY rowid DESC LIMIT 1");
-  backwards_.bind(1, limit);
+std::optional<std::int64_t> TableCursor::rowUpTo(std::int64_t limit, std::int64_t skipped) {
+  return rowBeside(backwards_, "<= ?1 ORDER BY rowid DESC", limit, skipped);
+}
+
+std::optional<std::int64_t> TableCursor::rowBeside(Statement& way, const char* order,
+                                                   std::int64_t limit, std::int64_t skipped) {
+  if (!way)
+    way = Statement(*connection_, "SELECT rowid FROM " + sqlName(table_) + " WHERE rowid " + order +
+                                      " LIMIT 1 OFFSET ?2");
+  way.bind(1, limit);
+  way.bind(2, skipped);
   std::optional<std::int64_t> row;
-  if (backwards_.step()) row = backwards_.integer(0);
-  backwards_.reset();
+  if (way.step()) row = way.integer(0);
+  way.reset();
   return row;
 }
 

@@ -26,14 +26,20 @@ class TableCursor final : public Cursor {
   void move(int rows) override;
 
  private:
-  std::optional<std::int64_t> rowUpTo(std::int64_t limit);
-  bool forward();
-  bool backward();
+  void goTo(std::optional<std::int64_t> row);
+  /// The row that comes when `skipped` rows from `limit` on are passed over, and its mirror image.
+  /// @{
+  std::optional<std::int64_t> rowFrom(std::int64_t limit, std::int64_t skipped);
+  std::optional<std::int64_t> rowUpTo(std::int64_t limit, std::int64_t skipped);
+  /// @}
+  std::optional<std::int64_t> rowBeside(Statement& way, const char* order, std::int64_t limit,
+                                        std::int64_t skipped);
   void refetch() override;
   void added(std::int64_t row) override;
   void removed() override;
 
   std::optional<int> count_;
+  Statement forwards_;
   Statement backwards_;
 };
 

@@ -121,6 +121,47 @@ TEST_F(DeleteDive, AJumpLeavesTheFocusAlone) {
   }
 }
 
+TEST_F(DeleteDive, AJumpBeyondTheEndLeavesTheDiveThatShows) {
+  for (const int number : {1, 2, 9}) add(someDive(number));
+  auto& form = open();
+  const auto jumpBeyond = [&] {
+    press(form.Data1, Navigator::Arrow::First);
+    press(form.Data1, Navigator::Arrow::Next);
+    desktop->answerInput("8");
+    click(form.Command2);
+    EXPECT_EQ(form.Text1.text(), "2");
+  };
+  jumpBeyond();
+  press(form.Data1, Navigator::Arrow::Next);
+  EXPECT_EQ(form.Text1.text(), "9");
+  jumpBeyond();
+  desktop->answer(kYes);
+  click(form.Command1);
+  EXPECT_EQ(column("Ort"), (Texts{"Ort 1", "Ort 9"}));
+}
+
+TEST_F(DeleteDive, AnArrowFindsARowFromEverywhere) {
+  using Arrow = Navigator::Arrow;
+  addDives(1, 6);
+  auto& form = open();
+  const auto& shown = form.Text1.text();
+  for (const auto arrow : {Arrow::Next, Arrow::Previous, Arrow::Last}) {
+    while (!form.Data1.Recordset().Eof()) form.Data1.Recordset().MoveNext();
+    press(form.Data1, arrow);
+    EXPECT_EQ(shown, "6");
+  }
+  const auto deleted = [&](Arrow to, Arrow press1) {
+    press(form.Data1, to);
+    form.Data1.Recordset().Delete();
+    press(form.Data1, press1);
+    return shown;
+  };
+  EXPECT_EQ(deleted(Arrow::Last, Arrow::Next), "5") << "none followed";
+  EXPECT_EQ(deleted(Arrow::First, Arrow::Next), "2");
+  EXPECT_EQ(deleted(Arrow::First, Arrow::Previous), "3");
+  EXPECT_EQ(deleted(Arrow::Previous, Arrow::First), "4");
+}
+
 TEST_F(DeleteDive, TheLastDiveTakesTheWindowAndTheCommandsWithIt) {
   addDives(4, 4);
   auto& form = open();
