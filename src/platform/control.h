@@ -3,6 +3,7 @@
 #include <functional>
 #include <initializer_list>
 #include <string>
+#include <string_view>
 
 namespace nautrel {
 
@@ -44,6 +45,11 @@ class Control {
   bool canTakeFocus() const { return takesFocus() && enabled_ && shows(); }
   bool tabStop() const { return tabStop_; }
   void setTabStop(bool tabStop) { tabStop_ = tabStop; }
+
+  /// Whether Alt and the character mean this control, by the & in what is written on it.
+  virtual bool answersAccessKey(std::string_view /*character*/) const { return false; }
+  /// What it does then; a whole user action.
+  virtual void userAccess() {}
 
   /// Puts it into a frame, picture box or tab page.
   void setContainer(const Control& container, int page = 0);

@@ -9,13 +9,21 @@
 
 namespace nautrel {
 
-Label::Label(Form& form, std::string name, std::string caption)
+Captioned::Captioned(Form& form, std::string name, std::string caption)
     : Control(form, std::move(name)), caption_(std::move(caption)) {}
 
-void Label::setCaption(std::string caption) {
+void Captioned::setCaption(std::string caption) {
   if (caption_ == caption) return;
   caption_ = std::move(caption);
   changed();
+}
+
+// Of several in a caption ("&Pr&int") the last one counts.
+bool Captioned::answersAccessKey(std::string_view character) const {
+  const auto mark = caption_.rfind('&');
+  return mark != std::string::npos && canTakeFocus() &&
+         lowerCase(firstCharacters(std::string_view(caption_).substr(mark + 1), 1)) ==
+             lowerCase(character);
 }
 
 Frame& Frame::holds(std::initializer_list<Control*> controls) {
@@ -103,15 +111,6 @@ void TextBox::edit(std::string text, std::size_t caret) {
   raiseEvent(Change);
 }
 
-Button::Button(Form& form, std::string name, std::string caption)
-    : Control(form, std::move(name)), caption_(std::move(caption)) {}
-
-void Button::setCaption(std::string caption) {
-  if (caption_ == caption) return;
-  caption_ = std::move(caption);
-  changed();
-}
-
 void Button::setDefault(bool isDefault) {
   auto* before = form().default_;
   if (isDefault)
@@ -139,7 +138,7 @@ void Button::userClick() {
 }
 
 CheckBox::CheckBox(Form& form, std::string name, std::string caption, bool on)
-    : Control(form, std::move(name)), caption_(std::move(caption)), on_(on) {}
+    : Captioned(form, std::move(name), std::move(caption)), on_(on) {}
 
 void CheckBox::setOn(bool on) {
   if (on_ == on) return;
@@ -157,7 +156,7 @@ void CheckBox::userClick() {
 }
 
 OptionButton::OptionButton(Form& form, std::string name, std::string caption, bool on)
-    : Control(form, std::move(name)), caption_(std::move(caption)), on_(on) {}
+    : Captioned(form, std::move(name), std::move(caption)), on_(on) {}
 
 std::vector<OptionButton*> OptionButton::group() const {
   std::vector<OptionButton*> options;

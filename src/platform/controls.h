@@ -11,15 +11,22 @@
 
 namespace nautrel {
 
-/// A text on the window that a rule reads or writes.
-class Label : public Control {
+/// A control with a caption. The character behind an & in it is its access key.
+class Captioned : public Control {
  public:
-  Label(Form& form, std::string name, std::string caption = {});
+  Captioned(Form& form, std::string name, std::string caption = {});
   const std::string& caption() const { return caption_; }
   void setCaption(std::string caption);
+  bool answersAccessKey(std::string_view character) const override;
 
  private:
   std::string caption_;
+};
+
+/// A text on the window that a rule reads or writes.
+class Label : public Captioned {
+ public:
+  using Captioned::Captioned;
 };
 
 /// Holds other controls; the options in one frame are exclusive.
@@ -86,11 +93,9 @@ class TextBox : public Control {
 };
 
 /// A command button.
-class Button : public Control {
+class Button : public Captioned {
  public:
-  Button(Form& form, std::string name, std::string caption);
-  const std::string& caption() const { return caption_; }
-  void setCaption(std::string caption);
+  using Captioned::Captioned;
   /// The button that Enter presses; a form has at most one. The same for Esc and cancel.
   void setDefault(bool isDefault);
   bool isDefault() const;
@@ -101,17 +106,14 @@ class Button : public Control {
   /// A press by mouse, Space or access key: the focus moves first, and the Click is raised exactly
   /// if the button has it then.
   void userClick();
+  void userAccess() override { userClick(); }
 
   bool takesFocus() const override { return true; }
-
- private:
-  std::string caption_;
 };
 
-class CheckBox : public Control {
+class CheckBox : public Captioned {
  public:
   CheckBox(Form& form, std::string name, std::string caption = {}, bool on = false);
-  const std::string& caption() const { return caption_; }
   bool on() const { return on_; }
   /// Every change of the value raises Click.
   void setOn(bool on);
@@ -119,18 +121,17 @@ class CheckBox : public Control {
   Event Click;
 
   void userClick();
+  void userAccess() override { userClick(); }
   bool takesFocus() const override { return true; }
 
  private:
-  std::string caption_;
   bool on_;
 };
 
 /// An option: at most one is on among those in the same container.
-class OptionButton : public Control {
+class OptionButton : public Captioned {
  public:
   OptionButton(Form& form, std::string name, std::string caption = {}, bool on = false);
-  const std::string& caption() const { return caption_; }
   bool on() const { return on_; }
   /// Going on raises Click and turns its neighbours off silently; going off raises nothing.
   void setOn(bool on);
@@ -141,6 +142,7 @@ class OptionButton : public Control {
 
   /// A press by mouse, Space or an assistive tool.
   void userClick();
+  void userAccess() override { userClick(); }
   void userDoubleClick();
   /// An arrow key chooses the next option of the group; the mouse has no part in it.
   void userArrow(int direction);
@@ -149,7 +151,6 @@ class OptionButton : public Control {
  private:
   std::vector<OptionButton*> group() const;
 
-  std::string caption_;
   bool on_;
 };
 

@@ -13,7 +13,8 @@ Form::Form(Program& program, std::string name, Design design)
       name_(std::move(name)),
       caption_(std::move(design.caption)),
       width_(design.width),
-      height_(design.height) {}
+      height_(design.height),
+      child_(design.child) {}
 
 Form::~Form() = default;
 
@@ -48,10 +49,15 @@ void Form::setEnabled(bool enabled) {
   notifyLook();
 }
 
+// Who is minimized gives way to the window behind, and who is restored comes to the front.
 void Form::setWindowState(WindowState state) {
   if (state_ == state) return;
+  const bool restored = state_ == WindowState::Minimized;
   state_ = state;
   notifyLook();
+  if (!visible_) return;
+  if (restored) return activate();
+  if (state == WindowState::Minimized) program_.giveWay(*this);
 }
 
 void Form::setLeft(double left) {
@@ -108,9 +114,8 @@ void Form::openDataControls() {
 }
 
 void Form::activate() {
-  if (program_.active_ == this) return;
-  program_.active_ = this;
-  if (look_) look_->activate();
+  if (!child_) return;
+  program_.bringToFront(*this);
   notifyLook();
 }
 
@@ -163,9 +168,42 @@ void press(const Button& button) {
 
 void Form::userFocus(Control& control) {
   program_.handle([&] {
-    if (enabled_ && visible_ && control.canTakeFocus()) moveFocus(control);
+    if (enabled_ && visible_ && control.canTakeFocus()) {
+      activate();
+      moveFocus(control);
+    }
     notifyLook();
   });
+}
+
+Control* Form::accessOwner(std::string_view character) const {
+  const auto behind = std::find(tabOrder_.begin(), tabOrder_.end(), active_);
+  std::vector<Control*> order(behind, tabOrder_.end());
+  order.insert(order.end(), tabOrder_.begin(), behind);
+  if (order.front() == active_) std::rotate(order.begin(), order.begin() + 1, order.end());
+  const auto it = std::find_if(order.begin(), order.end(), [&](const Control* control) {
+    return control->answersAccessKey(character);
+  });
+  return it == order.end() ? nullptr : *it;
+}
+
+bool Form::answersAccessKey(std::string_view character) const {
+  return enabled_ && visible_ && accessOwner(character) != nullptr;
+}
+
+bool Form::userAccessKey(std::string_view character) {
+  if (!answersAccessKey(character)) return false;
+  accessOwner(character)->userAccess();
+  return true;
+}
+
+void Form::userTurnPage(int direction) {
+  for (auto* control : controls_) {
+    auto* strip = dynamic_cast<TabStrip*>(control);
+    if (strip == nullptr || !strip->canTakeFocus()) continue;
+    const auto pages = static_cast<int>(strip->captions().size());
+    return strip->userTab((strip->Tab() + direction + pages) % pages);
+  }
 }
 
 void Form::userKey(Key key) {
@@ -236,11 +274,13 @@ void Form::userResized(double left, double top, double width, double height) {
 }
 
 void Form::userState(WindowState state) {
-  program_.handle([&] { state_ = state; });
+  program_.handle([&] { setWindowState(state); });
 }
 
 void Form::userActivated() {
-  if (loaded_) program_.active_ = this;
+  program_.handle([this] {
+    if (visible_) activate();
+  });
 }
 
 Desktop& Form::desktop() const {

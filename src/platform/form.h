@@ -27,6 +27,7 @@ class Form {
     std::string caption = {};
     double width = 6000;
     double height = 4500;
+    bool child = true;  // stands in the main window's area
   };
 
   Form(Program& program, std::string name, Design design);
@@ -44,6 +45,7 @@ class Form {
   void Unload();
   bool loaded() const { return loaded_; }
   bool visible() const { return visible_; }
+  bool isChild() const { return child_; }
 
   const std::string& caption() const { return caption_; }
   void setCaption(std::string caption);
@@ -86,10 +88,17 @@ class Form {
   void userFocus(Control& control);
   void userKey(Key key);
   void userType(std::string_view text);
+  /// Alt with a character: of those whose caption names it, the next one in tab order, beginning
+  /// behind the focus. False if nobody here answers to it.
+  bool userAccessKey(std::string_view character);
+  bool answersAccessKey(std::string_view character) const;
+  /// Turns the pages of the window, in a circle.
+  void userTurnPage(int direction);
   void userClose();
   void userResized(double left, double top, double width, double height);
   void userState(WindowState state);
-  /// The window came to the front: no control's focus event is raised.
+  /// Brings the window to the front. No control's focus event is raised: the focus is where it was
+  /// left.
   void userActivated();
   /// @}
 
@@ -117,6 +126,7 @@ class Form {
 
   void add(Control& control);
   void activate();
+  Control* accessOwner(std::string_view character) const;
   void moveFocus(Control& target);
   void focusNext(const Control& from, int direction);
   void leaveIfUnfit(const Control& changed);
@@ -129,6 +139,7 @@ class Form {
   double width_;
   double height_;
   WindowState state_ = WindowState::Normal;
+  const bool child_;
   bool enabled_ = true;
   bool loaded_ = false;
   bool visible_ = false;

@@ -17,7 +17,6 @@ class FormLook {
   virtual void formChanged() = 0;
   virtual void refresh(Control& control) = 0;
   virtual void show() = 0;
-  virtual void activate() = 0;
   /// Out of sight for good; the form's object may live on until its handlers have ended.
   virtual void close() = 0;
 };

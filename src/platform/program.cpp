@@ -1,5 +1,7 @@
 #include "platform/program.h"
 
+#include <algorithm>
+
 namespace nautrel {
 
 Program::Program(Desktop& desktop) : desktop_(desktop) {
@@ -48,10 +50,50 @@ void Program::unload(int number) {
   asRoot([&] { form.Form_Unload(); });
   form.loaded_ = false;
   form.visible_ = false;
-  if (active_ == &form) active_ = nullptr;
+  leaveStack(form);
   if (form.look_) form.look_->close();
   unloaded_.push_back(std::move(windows_.at(number)));
   windows_.erase(number);
+}
+
+void Program::bringToFront(Form& form) {
+  if (front_ == &form) return;
+  front_ = &form;
+  std::erase(stack_, &form);
+  stack_.push_back(&form);
+}
+
+// One that is minimized comes to the front only if there is no other.
+void Program::giveWay(const Form& form) {
+  if (front_ != &form) return;
+  const auto next = std::find_if(stack_.rbegin(), stack_.rend(), [](const Form* other) {
+    return other->windowState() != WindowState::Minimized;
+  });
+  if (next != stack_.rend()) return (*next)->activate();
+  if (std::find(stack_.begin(), stack_.end(), &form) != stack_.end()) return;
+  front_ = nullptr;
+  if (!stack_.empty()) stack_.back()->activate();
+}
+
+void Program::leaveStack(const Form& form) {
+  std::erase(stack_, &form);
+  giveWay(form);
+}
+
+void Program::userCloseWindow() {
+  if (front_ != nullptr) front_->userClose();
+}
+
+void Program::userNextWindow(int direction) {
+  std::vector<Form*> round;
+  for (const auto& [number, form] : windows_)
+    if (form->isChild() && form->visible() && form->windowState() != WindowState::Minimized)
+      round.push_back(form.get());
+  if (round.empty()) return;
+  const auto size = static_cast<int>(round.size());
+  const auto here = static_cast<int>(std::find(round.begin(), round.end(), front_) - round.begin());
+  const int from = here < size ? here : (direction > 0 ? -1 : 0);
+  round[static_cast<std::size_t>((from + direction + size) % size)]->userActivated();
 }
 
 Form* Program::ifLoaded(int number) const {

@@ -45,8 +45,16 @@ class Program {
   Form* ifLoaded(int number) const;
   /// Unloads the window if it is loaded; its Form_Unload runs as a root.
   void unload(int number);
-  Form* activeForm() const { return active_; }
+  /// The child window in front; null if there is none.
+  Form* activeForm() const { return front_; }
+  /// The child windows that show, from back to front.
+  const std::vector<Form*>& stack() const { return stack_; }
   std::vector<Form*> loadedForms() const;
+
+  /// Closes the child window in front.
+  void userCloseWindow();
+  /// Brings the next child that is not minimized to the front, in a circle.
+  void userNextWindow(int direction);
 
  protected:
   /// The window of that number, made and loaded if it is not there.
@@ -67,6 +75,9 @@ class Program {
  private:
   friend class Form;
   void load(int number, std::unique_ptr<Form> form);
+  void bringToFront(Form& form);
+  void giveWay(const Form& form);
+  void leaveStack(const Form& form);
   void asRoot(const std::function<void()>& procedure);
   void leave();
   void settleAtEdge();
@@ -74,7 +85,8 @@ class Program {
   Desktop& desktop_;
   Looks* looks_ = nullptr;
   int depth_ = 0;
-  Form* active_ = nullptr;
+  Form* front_ = nullptr;
+  std::vector<Form*> stack_;
   std::map<int, std::unique_ptr<Form>> windows_;
   std::vector<std::unique_ptr<Form>> unloaded_;
 };

@@ -6,7 +6,8 @@
 namespace nautrel {
 
 Form1::Form1(Nautrel& app)
-    : Form(app, "Form1", {.caption = "Startup", .width = 8400, .height = 5100}), app_(app) {
+    : Form(app, "Form1", {.caption = "Startup", .width = 8400, .height = 5100, .child = false}),
+      app_(app) {
   Timer1.Fires = [this] { Timer1_Timer(); };
 }
 

@@ -52,7 +52,8 @@ std::vector<ToolbarButton> toolbarButtons() {
 }  // namespace
 
 MDIForm1::MDIForm1(Nautrel& app)
-    : Form(app, "MDIForm1", {.caption = "Nautrel 2.0", .width = 15360, .height = 11520}),
+    : Form(app, "MDIForm1",
+           {.caption = "Nautrel 2.0", .width = 15360, .height = 11520, .child = false}),
       Toolbar1(*this, "Toolbar1", toolbarButtons()),
       StatusBar1(*this, "StatusBar1",
                  {{{"Caps Lock", "Zeigt an, ob \"nur Großschreibung\" gewählt ist"},

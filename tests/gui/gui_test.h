@@ -72,11 +72,11 @@ class GuiTest : public LogbookTest {
   void mouse(const Control& control) { mouse(widget(control)); }
   /// Sends the keys to the window of the system that has them, as a keyboard does; who gets them
   /// from there is the toolkit's matter, shortcuts included.
-  static void keys(const QString& text) {
+  void keys(const QString& text) {
     for (const auto character : text) QTest::keyClick(keyboard(), character.toLatin1());
     settle();
   }
-  static void key(Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  void key(Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::keyClick(keyboard(), code, modifiers);
     settle();
   }
@@ -92,10 +92,13 @@ class GuiTest : public LogbookTest {
   std::unique_ptr<QtLooks> looks;
 
  private:
-  static QWindow* keyboard() {
-    auto* window = QGuiApplication::focusWindow();
-    EXPECT_NE(window, nullptr) << "no window has the keyboard";
-    return window;
+  /// A system gives the keyboard back to the window behind when a menu closes.
+  QWindow* keyboard() {
+    if (QGuiApplication::focusWindow() == nullptr) {
+      looks->mainFrame()->window().activateWindow();
+      settle();
+    }
+    return QGuiApplication::focusWindow();
   }
 };
 

@@ -56,7 +56,7 @@ class Window : public Form {
   TextBox First{*this, "First", {.maxLength = 4}};
   TextBox Second{*this, "Second"};
   Button Press{*this, "Press", "&Press"};
-  OptionButton Red{*this, "Red"};
+  OptionButton Red{*this, "Red", "&Red or &pink"};
   OptionButton Green{*this, "Green"};
   CheckBox Check{*this, "Check"};
   TextBox Behind{*this, "Behind"};
@@ -241,6 +241,56 @@ TEST_F(FormTest, ChangingTheWindowRaisesNoFocusEventAndADisabledOneTakesNoInput)
   click(one.Check);
   EXPECT_EQ(one.Second.text(), "");
   EXPECT_FALSE(one.Check.on());
+}
+
+TEST_F(FormTest, WhoGoesMakesRoomForTheWindowBehindWithTheFocusWhereItWasLeft) {
+  auto& one = shown(1);
+  auto& two = shown(2);
+  auto& three = shown(3);
+  two.SetFocus();
+  focus(two.Second);
+  three.SetFocus();
+  close(three);
+  EXPECT_EQ(run.activeForm(), &two);
+  two.userState(WindowState::Minimized);
+  EXPECT_EQ(run.activeForm(), &one);
+  two.taken();
+  two.setWindowState(WindowState::Normal);
+  EXPECT_EQ(run.activeForm(), &two);
+  EXPECT_EQ(two.activeControl(), &two.Second);
+  EXPECT_EQ(two.taken(), Texts{});
+  two.userState(WindowState::Minimized);
+  run.userCloseWindow();
+  EXPECT_FALSE(run.loaded(1));
+  EXPECT_EQ(run.activeForm(), &two) << "it is the only one left";
+  run.userCloseWindow();
+  EXPECT_EQ(run.activeForm(), nullptr);
+}
+
+TEST_F(FormTest, TheNextWindowIsTheNextThatIsNotMinimized) {
+  for (int number = 1; number <= 4; ++number) shown(number);
+  run.ifLoaded(3)->userState(WindowState::Minimized);
+  std::vector<Form*> round;
+  for (const int direction : {1, 1, 1, -1, -1}) {
+    run.userNextWindow(direction);
+    round.push_back(run.activeForm());
+  }
+  const auto number = [&](int n) { return run.ifLoaded(n); };
+  EXPECT_EQ(round, (std::vector<Form*>{number(1), number(2), number(4), number(2), number(1)}));
+}
+
+TEST_F(FormTest, AnAccessKeyWithSeveralOwnersGoesOnFromTheFocus) {
+  auto& window = shown();
+  for (const char* key : {"p", "P", "p"}) EXPECT_TRUE(window.userAccessKey(key));
+  EXPECT_EQ(window.activeControl(), &window.Press);
+  EXPECT_EQ(window.taken(), (Texts{"-First", "+Press", "press", "-Press", "+Red", "click Red",
+                                   "-Red", "+Press", "press"}));
+  EXPECT_FALSE(window.userAccessKey("x"));
+  window.userTurnPage(-1);
+  EXPECT_EQ(window.Pages.Tab(), 1);
+  EXPECT_FALSE(window.userAccessKey("p")) << "a page behind answers nothing";
+  window.userTurnPage(1);
+  EXPECT_EQ(window.Pages.Tab(), 0);
 }
 
 }  // namespace

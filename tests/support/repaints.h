@@ -25,7 +25,6 @@ class Repaints : public Looks {
     void formChanged() override {}
     void refresh(Control& control) override { heard(control); }
     void show() override {}
-    void activate() override {}
     void close() override {}
     const Heard& heard;
   };

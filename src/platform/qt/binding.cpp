@@ -1,31 +1,11 @@
 #include "platform/qt/binding.h"
 
-#include <QAbstractButton>
 #include <QKeyEvent>
-#include <QKeySequence>
 #include <QSignalBlocker>
 
 #include "platform/form.h"
 
 namespace nautrel {
-namespace {
-
-/// The button of the same child window that has the access key.
-QAbstractButton* accessButton(QWidget& widget, const QKeyEvent& key) {
-  if (key.modifiers() != Qt::AltModifier) return nullptr;
-  QWidget* window = &widget;
-  while (window != nullptr && window->windowType() != Qt::SubWindow)
-    window = window->parentWidget();
-  if (window == nullptr) return nullptr;
-  const QKeySequence pressed(QKeyCombination(Qt::AltModifier, Qt::Key(key.key())));
-  for (auto* button : window->findChildren<QAbstractButton*>())
-    if (button->isVisible() && button->isEnabled() &&
-        QKeySequence::mnemonic(button->text()) == pressed)
-      return button;
-  return nullptr;
-}
-
-}  // namespace
 
 Binding::Binding(Control& control, QWidget& widget) : control_(control), widget_(&widget) {
   watch(widget);
@@ -57,20 +37,8 @@ void Binding::release() {
 bool Binding::eventFilter(QObject* watched, QEvent* event) {
   if (!widget_) return false;
   if (filter(event)) return true;
-  if (accessKey(event)) return true;
   if (event->type() == QEvent::KeyPress && keyPressed(event)) return true;
   return QObject::eventFilter(watched, event);
-}
-
-// The access keys of the window in front come before those of the menu bar.
-bool Binding::accessKey(QEvent* event) {
-  const bool announced = event->type() == QEvent::ShortcutOverride;
-  if (!announced && event->type() != QEvent::KeyPress) return false;
-  auto* button = accessButton(*widget_, *static_cast<QKeyEvent*>(event));
-  if (button == nullptr) return false;
-  event->accept();
-  if (!announced) button->click();
-  return true;
 }
 
 // The keys whose meaning is the form's: it knows tab order, default and cancel button.

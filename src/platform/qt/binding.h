@@ -36,7 +36,6 @@ class Binding : public QObject {
   void watch(QWidget& part);
 
  private:
-  bool accessKey(QEvent* event);
   bool keyPressed(QEvent* event);
 
   Control& control_;

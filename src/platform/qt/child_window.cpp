@@ -3,6 +3,8 @@
 #include <QCloseEvent>
 #include <QLayout>
 #include <QMdiArea>
+#include <QMenu>
+#include <QMouseEvent>
 
 #include "platform/program.h"
 #include "platform/qt/convert.h"
@@ -21,6 +23,9 @@ class SubWindow : public QMdiSubWindow {
                    Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
                    (sizable ? Qt::WindowMinMaxButtonsHint : Qt::WindowType(0)));
     setAttribute(Qt::WA_DeleteOnClose, false);
+    // A press on a place that takes no focus leaves the focus where it is.
+    setFocusPolicy(Qt::NoFocus);
+    arrangeMenu(sizable);
     setWindowIcon(namedIcon("nautrel"));
     connect(this, &QMdiSubWindow::windowStateChanged, this,
             [this](Qt::WindowStates before, Qt::WindowStates now) { stateChanged(before, now); });
@@ -42,8 +47,28 @@ class SubWindow : public QMdiSubWindow {
     QMdiSubWindow::resizeEvent(event);
     report();
   }
+  // A minimized window has no button to restore it by.
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    if (isMinimized() && event->button() == Qt::LeftButton) return showNormal();
+    QMdiSubWindow::mouseDoubleClickEvent(event);
+  }
 
  private:
+  // What the menu has no meaning for goes; its keys are the main window's, so that they neither
+  // stand in the way of a command nor in each other's.
+  void arrangeMenu(bool sizable) {
+    for (auto* action : systemMenu()->actions()) {
+      const auto text = action->text();
+      action->setShortcuts(QList<QKeySequence>());
+      if (text == tr("Stay on &Top") || (!sizable && text == tr("&Size")))
+        systemMenu()->removeAction(action);
+      else if (text == tr("&Close"))
+        action->setText(text + QStringLiteral("\tCtrl+F4"));
+      else if (text == tr("&Restore"))
+        connect(systemMenu(), &QMenu::aboutToShow, action,
+                [this, action, sizable] { action->setVisible(sizable || isMinimized()); });
+    }
+  }
   void report() {
     if (form_ == nullptr || following || isMinimized() || !form_->visible()) return;
     form_->userResized(toTwips(x()), toTwips(y()), toTwips(width()), toTwips(height()));
@@ -96,12 +121,6 @@ void ChildWindow::show() {
   formChanged();
 }
 
-void ChildWindow::activate() {
-  if (!window_ || window_->mdiArea() == nullptr || !form().visible()) return;
-  window_->mdiArea()->setActiveSubWindow(window_);
-  window_->raise();
-}
-
 void ChildWindow::close() {
   if (!window_) return;
   releaseBindings();
@@ -137,23 +156,17 @@ void ChildWindow::giveSize(const QSize& size) {
     window_->setFixedSize(size);
 }
 
-// A fixed size would hold a minimized window open, and the toolkit brings to the front what it
-// minimizes.
-void ChildWindow::minimize() {
-  const auto* front = form().program().activeForm();
-  window_->setMinimumSize(0, 0);
-  window_->showMinimized();
-  if (front != nullptr && front != &form()) front->look()->activate();
-}
-
+// A fixed size would hold a minimized window open.
 void ChildWindow::pushState() {
   if (!form().visible()) return;
   const bool small = form().windowState() == WindowState::Minimized;
   if (small == window_->isMinimized()) return;
-  if (small) return minimize();
+  if (small) {
+    window_->setMinimumSize(0, 0);
+    return window_->showMinimized();
+  }
   window_->showNormal();
   giveSize({toPixels(form().Width()), toPixels(form().Height())});
-  activate();
 }
 
 }  // namespace nautrel

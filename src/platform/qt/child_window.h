@@ -17,7 +17,6 @@ class ChildWindow : public FormView {
   ~ChildWindow() override;
 
   void show() override;
-  void activate() override;
   void close() override;
   QWidget* root() const override;
 
@@ -26,7 +25,6 @@ class ChildWindow : public FormView {
 
  private:
   void giveSize(const QSize& size);
-  void minimize();
   void pushState();
 
   const bool sizable_;

@@ -72,7 +72,7 @@ void FormView::controlChanged(Control& control) {
 }
 
 void FormView::formChanged() {
-  formDirty_ = true;
+  formDirty_ = focusDirty_ = true;
   news();
 }
 
@@ -88,9 +88,7 @@ void FormView::news() {
 void FormView::flush() {
   for (std::size_t i = 0; i < bindings_.size(); ++i)
     if (bindings_[i]->dirty()) bindings_[i]->push();
-  if (!std::exchange(formDirty_, false)) return;
-  pushForm();
-  pushFocus();
+  if (std::exchange(formDirty_, false)) pushForm();
 }
 
 void FormView::repaintNow() {
@@ -102,16 +100,26 @@ void FormView::repaintNow() {
   }
 }
 
+namespace {
+
+/// A box or a menu that is open keeps the focus, and so does a window that is being moved.
+bool focusIsElsewhere() {
+  return QApplication::activeModalWidget() != nullptr ||
+         QApplication::activePopupWidget() != nullptr || QWidget::mouseGrabber() != nullptr;
+}
+
+}  // namespace
+
 void FormView::pushFocus() {
-  // The focus of a window behind must not bring it to the front.
-  if (form_.program().activeForm() != &form_ || form_.activeControl() == nullptr) return;
-  const auto* binding = bindingOf(*form_.activeControl());
+  if (!focusDirty_ || focusIsElsewhere()) return;
+  focusDirty_ = false;
+  const auto* active = form_.activeControl();
+  const auto* binding = active == nullptr ? nullptr : bindingOf(*active);
   if (binding == nullptr || binding->widget() == nullptr) return;
   auto* widget = binding->widget();
   auto* proxy = widget->focusProxy();
   auto* target = proxy != nullptr ? proxy : widget;
-  if (target->hasFocus() || (qApp->activeModalWidget() != nullptr)) return;
-  target->setFocus(Qt::OtherFocusReason);
+  if (!target->hasFocus()) target->setFocus(Qt::OtherFocusReason);
 }
 
 }  // namespace nautrel

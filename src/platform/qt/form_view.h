@@ -34,12 +34,15 @@ class FormView : public FormLook {
 
   /// Brings all news onto the screen.
   void flush();
+  /// Gives the focus on the screen to the widget of the control that has it.
+  void pushFocus();
   /// Forces the changed widgets to paint at once, within a running handler.
   void repaintNow();
 
   virtual QWidget* root() const = 0;
 
  protected:
+  QtLooks& looks() const { return looks_; }
   void bindControls();
   void releaseBindings();
   /// Lets the form's timers run from now on.
@@ -48,13 +51,13 @@ class FormView : public FormLook {
 
  private:
   void news();
-  void pushFocus();
 
   QtLooks& looks_;
   Form& form_;
   std::vector<std::unique_ptr<Binding>> bindings_;
   std::vector<QTimer*> timers_;
   bool formDirty_ = true;
+  bool focusDirty_ = true;
 };
 
 }  // namespace nautrel

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QProgressBar>
 #include <QScreen>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
@@ -117,15 +118,15 @@ MainFrame::MainFrame(QtLooks& looks, MDIForm1& form)
   area_->setAccessibleName(QStringLiteral("Windows of the logbook"));
   window_->setCentralWidget(area_);
   makeMenus();
+  makeKeys();
   makeToolbar();
   makeStatus();
   bindControls();
   placeWindow();
   form_.cascade = [this] { area_->cascadeSubWindows(); };
-  QObject::connect(area_, &QMdiArea::subWindowActivated, area_, [&looks](QMdiSubWindow* window) {
-    if (auto* view = window != nullptr ? looks.viewAround(window) : nullptr)
-      view->form().userActivated();
-  });
+  // Whom the toolkit brings to the front by itself is not the user's wish: he presses a window or a
+  // key for that.
+  QObject::connect(area_, &QMdiArea::subWindowActivated, area_, [&looks] { looks.flushSoon(); });
 }
 
 MainFrame::~MainFrame() {
@@ -206,9 +207,49 @@ QMenu& MainFrame::menu(const Menu& menu) const {
 }
 
 bool MainFrame::isShortcut(const QKeySequence& keys) const {
+  if (keys_.contains(keys)) return true;
   for (auto* action : actions_)
     if (action->shortcut() == keys) return true;
   return false;
+}
+
+void MainFrame::addKey(const char* keys, std::function<void()> action) {
+  keys_.append(QKeySequence(QString::fromLatin1(keys)));
+  QObject::connect(new QShortcut(keys_.last(), window_), &QShortcut::activated, area_,
+                   std::move(action));
+}
+
+// The keys by which every child can be reached, turned, moved and left, whatever it holds.
+void MainFrame::makeKeys() {
+  auto& program = form_.program();
+  addKey("Ctrl+F4", [&program] { program.userCloseWindow(); });
+  for (const char* keys : {"Ctrl+Tab", "Ctrl+F6"})
+    addKey(keys, [&program] { program.userNextWindow(1); });
+  for (const char* keys : {"Ctrl+Shift+Backtab", "Ctrl+Shift+Tab", "Ctrl+Shift+F6"})
+    addKey(keys, [&program] { program.userNextWindow(-1); });
+  const auto turn = [&program](int direction) {
+    if (auto* front = program.activeForm()) front->userTurnPage(direction);
+  };
+  addKey("Ctrl+PgDown", [turn] { turn(1); });
+  addKey("Ctrl+PgUp", [turn] { turn(-1); });
+  addKey("Alt+-", [this] {
+    if (auto* front = area_->activeSubWindow()) front->showSystemMenu();
+  });
+  addKey("F10", [this] { window_->menuBar()->setActiveAction(window_->menuBar()->actions()[0]); });
+}
+
+void MainFrame::pushStack() {
+  QList<QMdiSubWindow*> wanted;
+  for (const auto* form : form_.program().stack())
+    if (auto* window = qobject_cast<QMdiSubWindow*>(looks().viewOf(*form)->root()))
+      wanted.append(window);
+  auto shown = area_->subWindowList(QMdiArea::StackingOrder);
+  shown.removeIf([&](QMdiSubWindow* window) { return !wanted.contains(window); });
+  if (shown != wanted)
+    for (auto* window : wanted) window->raise();
+  const auto* front = form_.program().activeForm();
+  if (front != nullptr && area_->activeSubWindow() != wanted.last())
+    area_->setActiveSubWindow(wanted.last());
 }
 
 void MainFrame::controlChanged(Control& control) {
@@ -246,8 +287,6 @@ void MainFrame::show() {
   form_.userResized(toTwips(outer.x()), toTwips(outer.y()), toTwips(outer.width()),
                     toTwips(outer.height()));
 }
-
-void MainFrame::activate() {}
 
 void MainFrame::close() {
   if (!window_) return;

@@ -41,7 +41,6 @@ class MainFrame : public FormView {
   ~MainFrame() override;
 
   void show() override;
-  void activate() override;
   void close() override;
   QWidget* root() const override;
   void controlChanged(Control& control) override;
@@ -50,14 +49,18 @@ class MainFrame : public FormView {
   QMdiArea& area() const { return *area_; }
   QMainWindow& window() const { return *window_; }
   QMenu& menu(const Menu& menu) const;
-  /// Whether a key belongs to a command of the menu bar.
+  /// Whether a key belongs to a command of the menu bar or to the child windows.
   bool isShortcut(const QKeySequence& keys) const;
+  /// Puts the child windows on top of each other as the program has them.
+  void pushStack();
 
  protected:
   void pushForm() override;
 
  private:
   void makeMenus();
+  void makeKeys();
+  void addKey(const char* keys, std::function<void()> action);
   void makeToolbar();
   void makeStatus();
   void placeWindow();
@@ -72,6 +75,7 @@ class MainFrame : public FormView {
   QMap<const Control*, QAction*> actions_;
   QMap<const Menu*, QMenu*> menus_;
   QList<QAction*> buttons_;
+  QList<QKeySequence> keys_;
   bool hourglass_ = false;
   bool commandsDirty_ = true;
 };

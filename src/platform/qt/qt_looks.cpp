@@ -1,10 +1,7 @@
 #include "platform/qt/qt_looks.h"
 
 #include <QApplication>
-#include <QComboBox>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QPlainTextEdit>
+#include <QFocusEvent>
 #include <QTimer>
 #include <algorithm>
 
@@ -22,7 +19,7 @@ constexpr int kRepaintEvery = 40;  // milliseconds
 
 }  // namespace
 
-QtLooks::QtLooks(Program& program) : program_(program) {
+QtLooks::QtLooks(Program& program) : program_(program), keyboard_(program, *this) {
   sinceRepaint_.start();
   qApp->installEventFilter(this);
   connect(qApp, &QApplication::focusChanged, this,
@@ -67,7 +64,14 @@ void QtLooks::flush() {
   if (flushing_) return;
   flushing_ = true;
   for (std::size_t i = 0; i < views_.size(); ++i) views_[i]->flush();
+  if (frame_ != nullptr) frame_->pushStack();
+  if (auto* front = frontView()) front->pushFocus();
   flushing_ = false;
+}
+
+FormView* QtLooks::frontView() const {
+  const auto* front = program_.activeForm();
+  return front == nullptr ? nullptr : viewOf(*front);
 }
 
 void QtLooks::flushSoon() {
@@ -86,37 +90,26 @@ void QtLooks::repaintIfDue() {
   sinceRepaint_.restart();
 }
 
-namespace {
-
-bool pastesHere(const QObject& widget) {
-  if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) return !edit->isReadOnly();
-  if (const auto* edit = qobject_cast<const QPlainTextEdit*>(&widget)) return !edit->isReadOnly();
-  const auto* combo = qobject_cast<const QComboBox*>(&widget);
-  return combo != nullptr && combo->isEditable();
-}
-
-}  // namespace
-
-// A box keeps Ctrl+V for pasting, and leaves the menu every other command of its bar, also those
-// that the toolkit's boxes know a use of their own for. A key comes by here on its way to the
-// window of the system first: only the widget behind it can say what it wants.
+// A press anywhere on a child window brings it to the front, before the widget below the mouse
+// answers. Why a widget gets the focus is told to itself alone, just before all are told.
 bool QtLooks::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::ShortcutOverride || frame_ == nullptr || !watched->isWidgetType())
-    return false;
-  const QKeySequence keys(static_cast<QKeyEvent*>(event)->keyCombination());
-  if (!frame_->isShortcut(keys)) return false;
-  if (keys == QKeySequence(Qt::CTRL | Qt::Key_V) && pastesHere(*watched)) return false;
-  event->ignore();
-  return true;
+  if (event->type() == QEvent::FocusIn) focusReason_ = static_cast<QFocusEvent*>(event)->reason();
+  if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType())
+    if (auto* view = viewAround(static_cast<QWidget*>(watched)))
+      if (program_.activeForm() != &view->form()) view->form().userActivated();
+  return false;
 }
 
 // Only what the user does counts: while a handler runs, or the screen follows a model, the focus
-// moves on the screen are echoes.
+// moves on the screen are echoes. Where the toolkit puts the focus when a window comes to the front
+// or back from another program is its own memory and not the user's wish: the model's is pushed.
 void QtLooks::focusMoved(QWidget* now) {
   if (now == nullptr || flushing_ || program_.handling()) return;
   auto* view = viewAround(now);
-  if (view == nullptr) return;
-  if (auto* binding = view->bindingAround(now)) view->form().userFocus(binding->control());
+  auto* binding = view == nullptr ? nullptr : view->bindingAround(now);
+  if (binding == nullptr) return;
+  if (focusReason_ == Qt::MouseFocusReason) return view->form().userFocus(binding->control());
+  if (auto* front = frontView()) front->formChanged();
 }
 
 }  // namespace nautrel

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/look.h"
+#include "platform/qt/keyboard.h"
 
 namespace nautrel {
 
@@ -37,11 +38,14 @@ class QtLooks : public QObject, public Looks {
 
  private:
   void focusMoved(QWidget* now);
+  FormView* frontView() const;
 
   Program& program_;
+  Keyboard keyboard_;
   MainFrame* frame_ = nullptr;
   std::vector<FormView*> views_;
   QElapsedTimer sinceRepaint_;
+  Qt::FocusReason focusReason_ = Qt::OtherFocusReason;
   bool flushing_ = false;
   bool waiting_ = false;
 };

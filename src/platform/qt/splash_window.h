@@ -14,7 +14,6 @@ class SplashWindow : public FormView {
   ~SplashWindow() override;
 
   void show() override;
-  void activate() override {}
   void close() override;
   QWidget* root() const override;
 
