@@ -5,17 +5,10 @@
 #include <utility>
 
 #include "platform/text.h"
+#include "printing/template_marks.h"
 
 namespace nautrel {
 namespace {
-
-constexpr std::string_view kBlanks = " \t\r";
-
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
 
 /// Cuts off what stands before the separator; all of it if there is none.
 std::string_view cut(std::string_view& rest, char separator) {
@@ -66,6 +59,9 @@ ListLayout::Alignment alignment(std::string_view text) {
 }
 
 void addColumn(ListTemplate& list, std::string_view value) {
+  constexpr std::size_t kMostColumns = 60;
+  if (list.cells.size() == kMostColumns)
+    throw ReportFault{"It has more than " + std::to_string(kMostColumns) + " columns."};
   const auto head = cut(value, '|');
   const auto width = cut(value, '|');
   const auto aligned = cut(value, '|');

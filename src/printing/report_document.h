@@ -16,9 +16,18 @@ struct ReportFault {
   std::string text;
 };
 
+/// What stands above and below every page of a report.
+struct ReportFrame {
+  std::string title = {};  // large on the first page
+  std::string subtitle = {};
+  /// The foot of a page, counted from 1; a bar parts left from right.
+  std::function<std::string(int page, int pages)> footer = {};
+};
+
 /// A report whose template is a page of HTML.
-struct PageReport {
-  std::string html;
+struct PageReport : ReportFrame {
+  std::string html = {};
+  std::string folder = {};  // the one that its pictures come from
 };
 
 /// How a list looks on paper.
@@ -27,7 +36,7 @@ struct ListLayout {
   enum class Alignment { Left, Center, Right };
   struct Column {
     std::string head;
-    double width = 0;  // millimetres
+    double width = 0;  // millimetres; how columns share out what their texts leave of the page
     Alignment alignment = Alignment::Left;
   };
 
@@ -38,13 +47,9 @@ struct ListLayout {
 };
 
 /// A report whose template is a list: one line a row, on as many pages as it takes.
-struct ListReport {
-  std::string title;
-  std::string subtitle;
-  /// The foot of a page, counted from 1; a bar parts left from right.
-  std::function<std::string(int page, int pages)> footer;
-  ListLayout layout;
-  std::vector<std::string> cells;  // row after row, as many a row as there are columns
+struct ListReport : ReportFrame {
+  ListLayout layout = {};
+  std::vector<std::string> cells = {};  // row after row, as many a row as there are columns
 
   std::size_t rows() const { return cells.size() / layout.columns.size(); }
 };
@@ -52,7 +57,8 @@ struct ListReport {
 using ReportDocument = std::variant<PageReport, ListReport>;
 
 /// Fills the job's template from the logbook that stands beside it. Raises ReportFault: the
-/// template is missing or broken, the selection cannot be read, the logbook cannot be opened.
+/// template is missing or broken or asks for more than can be shown, the selection cannot be read,
+/// the logbook cannot be opened.
 ReportDocument makeReport(const ReportJob& job, const DateTime& printed, const Locale& locale);
 
 }  // namespace nautrel

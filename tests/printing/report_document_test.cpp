@@ -72,14 +72,43 @@ class Reports : public LogbookTest {
 TEST_F(Reports, TheDeliveredListShowsTheRangeOneDiveAndNone) {
   addDives(1, 12);
   add({{"Nr", "13"}, {"Land", "<Sinai>"}, {"Tag", "1"}, {"Monat", "2"}, {"Jahr", "2001"}});
-  const auto formula = "ToNumber ({Logbuch.Nr}) in 12 to 13";
+  add({{"Nr", "14"},
+       {"Land",
+        "a\x1F"
+        "b"},
+       {"Tag", ""},
+       {"Monat", "7"},
+       {"Zeit", "9"}});
+  const auto formula = "ToNumber ({Logbuch.Nr}) in 12 to 14";
   const auto report = std::get<ListReport>(delivered("Liste.rpt", formula));
   EXPECT_EQ(report.title, "Dive list");
-  EXPECT_EQ(report.subtitle, "Dives 12 to 13");
+  EXPECT_EQ(report.subtitle, "Dives 12 to 14");
   EXPECT_EQ(report.footer(1, 3), "Nautrel 2.0 · printed 3/5/2001 2:07:09 PM | Page 1 of 3");
-  EXPECT_EQ(report.cells,
-            (Texts{"12", "05.03.2001", "Land 12", "Ort 12", "P", "40 min", "60 ft", "",  //
-                   "13", "1.2.2001", "<Sinai>", "", "", "", "", ""}));
+  EXPECT_EQ(report.cells, (Texts{"12",
+                                 "05.03.2001",
+                                 "Land 12",
+                                 "Ort 12",
+                                 "P",
+                                 "40 min",
+                                 "60 ft",
+                                 "",  //
+                                 "13",
+                                 "1.2.2001",
+                                 "<Sinai>",
+                                 "",
+                                 "",
+                                 "",
+                                 "",
+                                 "",  //
+                                 "14",
+                                 "",
+                                 "a\x1F"
+                                 "b",
+                                 "",
+                                 "",
+                                 "9 min",
+                                 "",
+                                 ""}));
   Texts heads;
   for (const auto& column : report.layout.columns) heads.push_back(column.head);
   EXPECT_EQ(heads, (Texts{"#", "Date", "Country", "City / Island", "Dive place", "Time", "Depth",
@@ -137,17 +166,74 @@ TEST_F(Reports, TheDeliveredPagesShowEveryColumnOfTheirRow) {
         if (known.name == table)
           values[std::string(column.name)] = "[" + std::string(column.name) + "]";
     fillIn(table, values);
-    const auto html = std::get<PageReport>(delivered(file)).html;
+    const auto page = std::get<PageReport>(delivered(file));
+    const auto all = page.title + page.subtitle + page.html;
     for (const auto& [name, value] : values)
-      EXPECT_NE(html.find(value.text({})), std::string::npos) << file << " lacks " << name;
+      EXPECT_NE(all.find(value.text({})), std::string::npos) << file << " lacks " << name;
+  }
+}
+
+TEST_F(Reports, TheDeliveredCardLeavesOutWhatIsEmpty) {
+  const auto empty = std::get<PageReport>(delivered("Benutzer.rpt"));
+  EXPECT_EQ(empty.title, "Personal information");
+  EXPECT_EQ(empty.subtitle, "");
+  EXPECT_EQ(empty.html.find("<td"), std::string::npos);
+  EXPECT_EQ(empty.html.find("<h2"), std::string::npos);
+  fillIn("Benutzer", {{"Nachname", "A|B"}, {"Plz", "12345"}, {"Ort", ""}, {"Cernr", "7"}});
+  const auto card = std::get<PageReport>(delivered("Benutzer.rpt"));
+  EXPECT_EQ(card.title, "A|B");
+  EXPECT_EQ(card.subtitle, "Personal information");
+  for (const auto* text : {"12345", ">The diver<", ">Last dive certification<"})
+    EXPECT_NE(card.html.find(text), std::string::npos) << text;
+  for (const auto* text : {"FAX", "Several", "Level"})
+    EXPECT_EQ(card.html.find(text), std::string::npos) << text;
+}
+
+TEST_F(Reports, APageSaysWhatStandsAboveAndBelowIt) {
+  fillIn("Benutzer", {{"Vorname", "A<B"}});
+  const struct {
+    const char *source, *title, *subtitle, *foot, *html;
+  } pages[] = {{"<p>x</p>", "", "", "| Page 2 of 3", "<p>x</p>"},
+               {"<p><!-- {{#a}} <header>no</header> --></p>", "", "", "| Page 2 of 3", "<p></p>"},
+               {"<HEADER> {{#Benutzer}}{{Vorname}}{{/Benutzer}}|{{date}}</HEADER>\n<footer>p. "
+                "{{page}}</footer><b/>",
+                "A<B", "3/5/2001", "p. 2", "<b/>"},
+               {"<header> | only</header>-", "only", "", "| Page 2 of 3", "-"}};
+  for (const auto& [source, title, subtitle, foot, html] : pages) {
+    const auto report = std::get<PageReport>(make(source));
+    EXPECT_EQ(report.title, title) << source;
+    EXPECT_EQ(report.subtitle, subtitle) << source;
+    EXPECT_EQ(report.footer(2, 3), foot) << source;
+    EXPECT_NE(report.html.find(html), std::string::npos) << report.html;
+    EXPECT_EQ(report.html.find("eader"), std::string::npos) << report.html;
   }
 }
 
 TEST_F(Reports, AFaultNamesTheFileAndWhatIsWrong) {
-  addDives(1, 1);
+  addDives(1, 99);
+  add({{"Nr", "100"}, {"Lang", std::string(400'000, 'x')}});
   const std::string column = "\ncolumn: # | 12 | left | {{Nr}}";
+  const auto times = [](int count, const std::string& text) {
+    std::string all;
+    for (int i = 0; i < count; ++i) all += text;
+    return all;
+  };
+  const std::string dives = "{{#Logbuch}}";
   const std::pair<std::string, std::string> templates[] = {
       {"", "empty"},
+      {times(5 << 20, "x"), "too long"},
+      {"rows: Logbuch" + times(61, column), "60 columns"},
+      {times(60, "<p>{{#a}}") + times(60, "{{/a}}"), "50 sections"},
+      {"rows: Logbuch\ntitle: " + times(60, "{{^a}}") + times(60, "{{/a}}") + column,
+       "50 sections"},
+      {"<p>{{=< >=}}" + times(60, "<#a>") + times(60, "</a>"), "50 sections"},
+      {times(11, "<table><tr><td>"), "10 tables"},
+      {"<p>" + times(30'000, "x"), "20000 characters"},
+      {times(101, "<Div class='x'>"), "100 elements"},
+      {times(200, "<p><li>") + "<table><tr><td COLSPAN=\"20000\"><td rowspan=20000>", "cells"},
+      {"<table>" + times(3, "<tr>" + times(100'000, "<td>")), "cells"},
+      {"<p>" + times(4, dives) + times(4, "{{/Logbuch}}"), "too long"},
+      {"<p>" + times(2, dives) + "{{{Lang}}}" + times(2, "{{/Logbuch}}"), "too long"},
       {"rows: Logbuch", "no columns"},
       {"title: x" + column, "no table"},
       {"rows: Tauchgänge" + column, "'Tauchgänge'"},
@@ -170,8 +256,9 @@ TEST_F(Reports, AFaultNamesTheFileAndWhatIsWrong) {
   }
   EXPECT_NE(faultOf("rows: Logbuch" + column, "all of them").find("\"all of them\""),
             std::string::npos);
-  const ReportJob missing{.templatePath = folder.file("Liste.rpt")};
-  EXPECT_THROW(makeReport(missing, {}, {}), ReportFault);
+  std::filesystem::create_directory(folder.file("Folder.rpt"));
+  for (const auto* name : {"Liste.rpt", "Folder.rpt"})
+    EXPECT_THROW(makeReport({.templatePath = folder.file(name)}, {}, {}), ReportFault) << name;
   std::filesystem::remove(folder.file("Logbuch.mdb"));
   EXPECT_NE(faultOf("<p>").find("Logbuch.mdb"), std::string::npos);
 }

@@ -4,28 +4,21 @@
 #include <QStringList>
 #include <vector>
 
+#include "platform/qt/report_cells.h"
+#include "platform/qt/report_frame.h"
 #include "platform/qt/report_pages.h"
 
 namespace nautrel {
 
 /// The paper in the orientation that the list asks for, or needs.
-QPageLayout turnedFor(const ListLayout& layout, QPageLayout paper);
-
-/// The widths of characters of one font, for a first look at whether a text fits.
-class CharacterWidths {
- public:
-  explicit CharacterWidths(const QFont& font);
-  double of(const QString& text) const;
-
- private:
-  QFontMetricsF metrics_;
-  std::vector<double> widths_;
-};
+QPageLayout turnedFor(const ListLayout& layout, const std::vector<ColumnNeed>& needs,
+                      QPageLayout paper);
 
 /// A list of rows: title and range, the heads of the columns and the page's number on every page.
+/// Where the paper is too narrow for its numbers and words, its text is set smaller.
 class ReportList : public ReportPages {
  public:
-  ReportList(ListReport report, const QPageLayout& paper);
+  ReportList(ReportFrame frame, ListLayout layout, ListCells cells, const QPageLayout& paper);
 
   int count() const override { return static_cast<int>(starts_.size()); }
   void paint(QPainter& painter, int page) const override;
@@ -36,25 +29,30 @@ class ReportList : public ReportPages {
     double width = 0;
   };
 
+  double fittingScale() const;
   void placeColumns();
+  void wrapHeads();
   void breakPages();
-  double titleHeight(int page) const;
   double lineHeight() const;
-  int linesOf(std::size_t row) const;
+  double headsHeight() const;
   double heightOf(int lines) const;
-  QString cell(std::size_t row, std::size_t column) const;
-  QStringList wrapped(const QString& text, double width) const;
-  double paintTitle(QPainter& painter, int page) const;
+  int linesOf(std::size_t row) const;
+  bool fits(const ListCells::Cell& cell, std::size_t column) const;
+  QStringList linesOf(std::size_t row, std::size_t column) const;
   double paintHeads(QPainter& painter, double top) const;
   double paintRow(QPainter& painter, std::size_t row, double top, bool shaded) const;
-  void paintCell(QPainter& painter, std::size_t row, std::size_t column, double top) const;
-  void paintFooter(QPainter& painter, int page) const;
-  void paintLine(QPainter& painter, const QString& line, std::size_t column, double top) const;
+  void paintLine(QPainter& painter, const QString& line, double width, std::size_t column,
+                 double top) const;
 
-  ListReport report_;
+  PageFrame frame_;
+  ListLayout layout_;
+  ListCells cells_;
+  double scale_ = 1;  // of the text against the size that the template asks for
   QFont font_;
-  CharacterWidths widths_;
+  QFont headFont_;
   std::vector<Column> columns_;
+  std::vector<QStringList> heads_;
+  std::vector<int> lines_;           // of each row
   std::vector<std::size_t> starts_;  // the first row of each page
 };
 

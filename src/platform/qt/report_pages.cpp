@@ -6,12 +6,12 @@
 #include "platform/desktop.h"
 #include "platform/qt/report_list.h"
 #include "platform/qt/report_page.h"
+#include "platform/qt/report_style.h"
 
 namespace nautrel {
 namespace {
 
 constexpr int kTwipsPerInch = 1440;
-constexpr int kTwipsPerPoint = 20;
 
 QRectF twips(const QRectF& points) {
   return {points.topLeft() * kTwipsPerPoint, points.size() * kTwipsPerPoint};
@@ -28,9 +28,13 @@ QRectF ReportPages::body() const {
 }
 
 std::unique_ptr<ReportPages> layOut(ReportDocument report, QPageLayout paper) {
-  if (auto* list = std::get_if<ListReport>(&report))
-    return std::make_unique<ReportList>(std::move(*list), turnedFor(list->layout, paper));
-  return std::make_unique<ReportPage>(std::get<PageReport>(report), paper);
+  auto* list = std::get_if<ListReport>(&report);
+  if (list == nullptr)
+    return std::make_unique<ReportPage>(std::get<PageReport>(std::move(report)), paper);
+  ListCells cells(list->cells, list->layout);
+  const auto turned = turnedFor(list->layout, cells.needs(), paper);
+  return std::make_unique<ReportList>(std::move(*list), std::move(list->layout), std::move(cells),
+                                      turned);
 }
 
 bool printPages(const ReportPages& pages, QPagedPaintDevice& device, int first, int last) {

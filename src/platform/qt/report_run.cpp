@@ -84,7 +84,7 @@ void QtDesktop::print(const std::string& text) {
   telling([&] {
     const auto printer = printerOf(printer_);
     const auto html = QStringLiteral("<pre>%1</pre>").arg(toQt(text).toHtmlEscaped());
-    printOn(*printer, *layOut(PageReport{fromQt(html)}, printer_.paper()),
+    printOn(*printer, *layOut(PageReport{{}, fromQt(html)}, printer_.paper()),
             QString::fromUtf8(kApplicationTitle));
   });
 }
