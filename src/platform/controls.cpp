@@ -54,9 +54,7 @@ void TextBox::setText(std::string_view text) {
 }
 
 void TextBox::select(std::size_t start, std::size_t length) {
-  const auto size = characters(text_);
-  start_ = std::min(start, size);
-  length_ = std::min(length, size - start_);
+  userSelect(start, length);
   ++stamp_;
   changed();
 }
@@ -66,8 +64,9 @@ void TextBox::selectAll() {
 }
 
 void TextBox::userSelect(std::size_t start, std::size_t length) {
-  start_ = start;
-  length_ = length;
+  const auto size = characters(text_);
+  start_ = std::min(start, size);
+  length_ = std::min(length, size - start_);
 }
 
 void TextBox::userInsert(std::string_view typed) {

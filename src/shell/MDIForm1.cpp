@@ -64,7 +64,7 @@ MDIForm1::MDIForm1(Nautrel& app)
       CommonDialog1(app.desktop(), {}),
       app_(app) {
   setWindowState(WindowState::Maximized);
-  Picture1.setVisible(false);
+  Picture1.holds({&ProgressBar1}).setVisible(false);
   arrangeMenus();
   bindCommands();
   bindToolbar();

@@ -72,11 +72,12 @@ const std::optional<RunTimeError>& ScriptedDesktop::failure() {
 
 template <class Answer>
 Answer ScriptedDesktop::next(std::deque<Answer>& answers, const std::string& question,
-                             Answer otherwise) {
+                             const std::vector<Answer>& byChance) {
   boxIsOpen();
   if (answers.empty()) {
+    if (dice) return byChance[static_cast<std::size_t>(dice(static_cast<int>(byChance.size())))];
     ADD_FAILURE() << "no answer was laid out for: " << question;
-    return otherwise;
+    return byChance.front();
   }
   auto answer = std::move(answers.front());
   answers.pop_front();
@@ -89,32 +90,32 @@ void ScriptedDesktop::boxIsOpen() {
 
 int ScriptedDesktop::showMessage(const std::string& prompt, int style, const std::string& title) {
   shown_.push_back({prompt, style, title});
-  if ((style & 0x0F) != 0) return next(buttons_, prompt, kNo);
+  if ((style & 0x0F) != 0) return next(buttons_, prompt, {kNo, kYes});
   boxIsOpen();
   return kOk;
 }
 
 std::string ScriptedDesktop::askText(const std::string& prompt, const std::string& title) {
   inputPrompts.push_back(title + ": " + prompt);
-  return next(inputs_, prompt, std::string{});
+  return next(inputs_, prompt, {"", "1", "2", "9999", "0", "x"});
 }
 
 std::optional<std::string> ScriptedDesktop::askFileToOpen(const DialogRequest& request) {
   dialogs.push_back(request);
-  return next(files_, request.title, std::optional<std::string>{});
+  return next(files_, request.title, {{}, folder_ + "/file"});
 }
 
 std::optional<std::string> ScriptedDesktop::askFileToSave(const DialogRequest& request) {
   dialogs.push_back(request);
-  return next(files_, request.title, std::optional<std::string>{});
+  return next(files_, request.title, {{}, folder_ + "/file"});
 }
 
 std::optional<long> ScriptedDesktop::askColor(long) {
-  return next(colors_, "a colour", std::optional<long>{});
+  return next(colors_, "a colour", {{}, 0xFF, 0x800000});
 }
 
 bool ScriptedDesktop::askPrinter() {
-  return next(printers_, "the printer", false);
+  return next(printers_, "the printer", {false, true});
 }
 
 std::string ScriptedDesktop::readSetting(const std::string& section, const std::string& key) {
@@ -139,7 +140,10 @@ Picture ScriptedDesktop::readPicture(const std::string& path) {
 
 void ScriptedDesktop::popup(Menu& menu, const Control* above) {
   popups.push_back(above == nullptr ? std::string{} : above->name());
-  const auto chosen = next(menuItems_, menu.caption(), std::string{});
+  std::vector<std::string> names{{}};
+  for (const auto* item : menu.items())
+    if (item != nullptr) names.push_back(item->name());
+  const auto chosen = next(menuItems_, menu.caption(), names);
   for (auto* item : menu.items())
     if (item != nullptr && item->name() == chosen) return item->userClick();
   EXPECT_TRUE(chosen.empty()) << menu.caption() << " has no item " << chosen;

@@ -60,6 +60,9 @@ class ScriptedDesktop : public Desktop {
   int charts = 0;
   /// Called while a box is open.
   std::function<void()> whileBoxIsOpen;
+  /// A number below the given one. With it, whatever no answer is laid out for is answered by
+  /// chance.
+  std::function<int(int)> dice;
 
   std::map<std::pair<std::string, std::string>, std::string> settings;
   DateTime time{2001, 3, 5, 14, 7, 9};
@@ -95,7 +98,8 @@ class ScriptedDesktop : public Desktop {
 
  private:
   template <class Answer>
-  Answer next(std::deque<Answer>& answers, const std::string& question, Answer otherwise);
+  Answer next(std::deque<Answer>& answers, const std::string& question,
+              const std::vector<Answer>& byChance);
   void boxIsOpen();
 
   std::string folder_;

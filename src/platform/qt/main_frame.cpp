@@ -115,6 +115,7 @@ MainFrame::MainFrame(QtLooks& looks, MDIForm1& form)
   window_->setWindowIcon(namedIcon("nautrel"));
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
   area_->setAccessibleName(QStringLiteral("Windows of the logbook"));
   window_->setCentralWidget(area_);
   makeMenus();

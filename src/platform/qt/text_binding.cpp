@@ -19,6 +19,28 @@ void showLocked(QWidget& box, bool locked) {
   box.setPalette(palette);
 }
 
+/// Start and end, as the toolkit counts them.
+using Selection = std::pair<int, int>;
+
+Selection selection(const TextBox& box, const QString& shown) {
+  return {toQtPosition(shown, box.SelStart()),
+          toQtPosition(shown, box.SelStart() + box.SelLength())};
+}
+
+Selection selection(const QLineEdit& edit) {
+  if (!edit.hasSelectedText()) return {edit.cursorPosition(), edit.cursorPosition()};
+  return {edit.selectionStart(), edit.selectionEnd()};
+}
+
+Selection selection(const QPlainTextEdit& edit) {
+  return {edit.textCursor().selectionStart(), edit.textCursor().selectionEnd()};
+}
+
+void tell(TextBox& box, const QString& shown, const Selection& selection) {
+  const auto start = fromQtPosition(shown, selection.first);
+  box.userSelect(start, fromQtPosition(shown, selection.second) - start);
+}
+
 /// A press on a box whose rule-bound neighbour keeps the focus must not reach the box.
 bool pressIsVoid(QEvent* event, const Control& control) {
   return event->type() == QEvent::MouseButtonPress && !control.hasFocus();
@@ -33,6 +55,13 @@ LineEditBinding::LineEditBinding(TextBox& box, QLineEdit& edit)
   connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
     box_.userEdit(fromQt(text), fromQtPosition(text, edit_.cursorPosition()));
   });
+  connect(&edit, &QLineEdit::selectionChanged, this, &LineEditBinding::tellSelection);
+  connect(&edit, &QLineEdit::cursorPositionChanged, this, &LineEditBinding::tellSelection);
+}
+
+// A box that loses the focus drops its selection on the screen alone.
+void LineEditBinding::tellSelection() {
+  if (edit_.hasFocus()) tell(box_, edit_.text(), selection(edit_));
 }
 
 bool LineEditBinding::filter(QEvent* event) {
@@ -44,7 +73,7 @@ void LineEditBinding::pushContent() {
   const auto text = toQt(box_.text());
   const bool rewritten = edit_.text() != text;
   if (rewritten) edit_.setText(text);
-  if (!rewritten && stamp_ == box_.selectionStamp()) return;
+  if (!rewritten && stamp_ == box_.selectionStamp() && !edit_.hasFocus()) return;
   stamp_ = box_.selectionStamp();
   // The head of a text that is too long for its box says more than its tail.
   headShown_ = !box_.hasFocus();
@@ -55,19 +84,19 @@ void LineEditBinding::pushContent() {
 }
 
 void LineEditBinding::showSelection() {
-  const auto text = toQt(box_.text());
-  const int start = toQtPosition(text, box_.SelStart());
-  const int end = toQtPosition(text, box_.SelStart() + box_.SelLength());
-  if (end > start)
-    edit_.setSelection(start, end - start);
+  const auto wanted = selection(box_, edit_.text());
+  if (wanted == selection(edit_)) return;
+  if (wanted.second > wanted.first)
+    edit_.setSelection(wanted.first, wanted.second - wanted.first);
   else
-    edit_.setCursorPosition(start);
+    edit_.setCursorPosition(wanted.first);
 }
 
 void LineEditBinding::arrive(Qt::FocusReason reason) {
   arrivingByMouse_ = reason == Qt::MouseFocusReason;
   stampOnArrival_ = box_.selectionStamp();
-  if (std::exchange(headShown_, false) && !arrivingByMouse_) showSelection();
+  headShown_ = false;
+  arrivingByMouse_ ? tellSelection() : showSelection();
 }
 
 // A rule that selects the text when the box gets the focus does so for the mouse as well: the press
@@ -98,6 +127,12 @@ PlainTextBinding::PlainTextBinding(TextBox& box, QPlainTextEdit& edit)
     if (text == shown()) return;
     box_.userEdit(fromQt(text), fromQtPosition(text, edit_.textCursor().position()));
   });
+  connect(&edit, &QPlainTextEdit::selectionChanged, this, &PlainTextBinding::tellSelection);
+  connect(&edit, &QPlainTextEdit::cursorPositionChanged, this, &PlainTextBinding::tellSelection);
+}
+
+void PlainTextBinding::tellSelection() {
+  tell(box_, edit_.toPlainText(), selection(edit_));
 }
 
 bool PlainTextBinding::filter(QEvent* event) {
@@ -106,14 +141,12 @@ bool PlainTextBinding::filter(QEvent* event) {
 
 void PlainTextBinding::pushContent() {
   const auto text = shown();
-  const bool rewritten = edit_.toPlainText() != text;
-  if (rewritten) edit_.setPlainText(text);
-  if (!rewritten && stamp_ == box_.selectionStamp()) return;
-  stamp_ = box_.selectionStamp();
+  if (edit_.toPlainText() != text) edit_.setPlainText(text);
+  const auto wanted = selection(box_, text);
+  if (wanted == selection(edit_)) return;
   auto cursor = edit_.textCursor();
-  cursor.setPosition(toQtPosition(text, box_.SelStart()));
-  cursor.setPosition(toQtPosition(text, box_.SelStart() + box_.SelLength()),
-                     QTextCursor::KeepAnchor);
+  cursor.setPosition(wanted.first);
+  cursor.setPosition(wanted.second, QTextCursor::KeepAnchor);
   edit_.setTextCursor(cursor);
 }
 

@@ -19,6 +19,7 @@ class LineEditBinding : public Binding {
 
  private:
   void showSelection();
+  void tellSelection();
   void arrive(Qt::FocusReason reason);
   bool selectedOnArrival(QEvent* event);
 
@@ -42,10 +43,10 @@ class PlainTextBinding : public Binding {
 
  private:
   QString shown() const;
+  void tellSelection();
 
   TextBox& box_;
   QPlainTextEdit& edit_;
-  unsigned stamp_ = 0;
 };
 
 }  // namespace nautrel

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/qt/qt_looks.h"
+#include "shell/Nautrel.h"
+
+namespace nautrel {
+
+/// What the screen shows otherwise than the models say, a line each. While a box is open the focus
+/// is the box's, so it is left out.
+std::vector<std::string> disagreements(Nautrel& app, const QtLooks& looks, bool boxIsOpen = false);
+
+}  // namespace nautrel
