@@ -3,6 +3,7 @@
 #if __has_include(<sys/wait.h>)
 
 #include <fcntl.h>
+#include <spawn.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -153,6 +154,15 @@ TEST_F(ProcessTest, OfManyWhoMakeTheLogbookOneSucceeds) {
   EXPECT_EQ(files().size(), 2U);
 }
 
+/// Another program that lives on; it runs as such when this returns.
+void startSleeper() {
+  std::string name = "sleep";
+  std::string seconds = "3";
+  char* arguments[] = {name.data(), seconds.data(), nullptr};
+  pid_t process = 0;
+  ASSERT_EQ(posix_spawnp(&process, "sleep", nullptr, nullptr, arguments, environ), 0);
+}
+
 TEST_F(ProcessTest, OneProgramAtATimeUntilItsDeath) {
   const TemporaryFolder elsewhere;
   const auto link = elsewhere.file("link.mdb");
@@ -160,7 +170,7 @@ TEST_F(ProcessTest, OneProgramAtATimeUntilItsDeath) {
   for (const auto& used : {path, link}) {
     Child first([&](const Child::Tell& tell) {
       const LogbookLock lock(used);
-      if (fork() == 0) execlp("sleep", "sleep", "3", nullptr);
+      startSleeper();
       tell(lock.isInUse() ? 2 : 1);
       pause();
     });
