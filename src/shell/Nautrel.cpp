@@ -26,6 +26,7 @@
 #include "shell/Form18.h"
 #include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
+#include "store/lock.h"
 
 namespace nautrel {
 
@@ -156,12 +157,13 @@ void Nautrel::show(int number) {
   }
 }
 
-// The database engine keeps its side files where a linked logbook really is.
+// The database engine keeps its side files, and the lock its own, where a linked logbook really is.
 std::vector<std::string> Nautrel::ownFiles() {
   std::vector<std::string> files = {desktop().executable()};
   for (const char* name :
        {"Logbuch.lock", "Liste.rpt", "Statistik.rpt", "Benutzer.rpt", "nautrel.rtf"})
     files.push_back(besideExecutable(name));
+  if (const auto lock = LogbookLock::fileFor(databasePath()); !lock.empty()) files.push_back(lock);
   const auto logbook = followLinks(nativePath(databasePath())).u8string();
   for (const char* side : {"", "-wal", "-shm", "-journal"}) {
     files.push_back(databasePath() + side);

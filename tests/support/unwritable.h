@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <string>
 
@@ -13,5 +14,23 @@ inline std::string unwritable(const std::string& path) {
   EXPECT_EQ(mknod(path.c_str(), S_IFSOCK | S_IRWXU, 0), 0);
   return path;
 }
+
+/// While it lives nobody is the administrator, whom permissions do not bind.
+class PlainUser {
+ public:
+  PlainUser() { become(kNobody); }
+  ~PlainUser() { become(0); }
+  PlainUser(const PlainUser&) = delete;
+  PlainUser& operator=(const PlainUser&) = delete;
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+  void become(uid_t user) {
+    if (administrator_) {
+      EXPECT_EQ(setresuid(user, user, 0), 0);
+    }
+  }
+  const bool administrator_ = geteuid() == 0;
+};
 
 }  // namespace nautrel
