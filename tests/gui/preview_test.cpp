@@ -2,10 +2,14 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QPrinterInfo>
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTimer>
+#include <QWheelEvent>
 #include <filesystem>
 #include <set>
 
@@ -63,6 +67,42 @@ TEST_F(Preview, LeafsThroughThePagesAndPaintsWhatComesIntoViewAlone) {
   EXPECT_TRUE(pages.painted.contains(149));
 }
 
+TEST_F(Preview, IsReadByTheKeyboardAndTheWheel) {
+  EXPECT_LE(preview.width(), preview.screen()->availableGeometry().width());
+  const struct {
+    const char* zoom;
+    Qt::Key key;
+    Qt::KeyboardModifier with;
+    int page;
+  } presses[] = {
+      {"Whole page", Qt::Key_End, Qt::NoModifier, 300},
+      {"Whole page", Qt::Key_PageUp, Qt::NoModifier, 299},
+      {"Whole page", Qt::Key_PageDown, Qt::NoModifier, 300},
+      {"Whole page", Qt::Key_Home, Qt::NoModifier, 1},
+      {"Whole page", Qt::Key_PageDown, Qt::NoModifier, 2},
+      {"200 %", Qt::Key_End, Qt::ControlModifier, 300},
+      {"200 %", Qt::Key_Home, Qt::ControlModifier, 1},
+      {"200 %", Qt::Key_PageDown, Qt::NoModifier, 1},
+      {"200 %", Qt::Key_PageDown, Qt::NoModifier, 1},
+      {"200 %", Qt::Key_PageDown, Qt::NoModifier, 2},
+  };
+  for (const auto& [zoomed, key, with, shown] : presses) {
+    zoom().setCurrentText(zoomed);
+    QTest::keyClick(preview.windowHandle(), key, with);
+    settle();
+    EXPECT_EQ(page().value(), shown) << zoomed << " key " << key;
+  }
+  auto& view = *preview.findChild<QScrollArea*>()->viewport();
+  const std::pair<int, const char*> turns[] = {
+      {120, "300 %"}, {60, "300 %"}, {60, "400 %"}, {-240, "200 %"}};
+  for (const auto& [angle, zoomed] : turns) {
+    QWheelEvent turn({9, 9}, view.mapToGlobal(QPointF(9, 9)), {}, {0, angle}, Qt::NoButton,
+                     Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&view, &turn);
+    EXPECT_EQ(zoom().currentText(), zoomed) << angle;
+  }
+}
+
 TEST_F(Preview, ZoomsFromAWholePage) {
   const auto whole = shown();
   zoom().setCurrentText("Page width");
@@ -113,13 +153,32 @@ TEST(ReportRun, SavesAsPdfThroughTheDoor) {
   EXPECT_TRUE(readFile(folder.file("card.pdf")).starts_with("%PDF-"));
 }
 
-TEST(ReportRun, WithoutAPrinterNothingIsPrinted) {
-  if (!QPrinterInfo::availablePrinterNames().isEmpty()) GTEST_SKIP() << "there is a printer here";
-  FolderDesktop desktop({});
-  desktop.runReport({.destination = ReportDestination::Printer});
+TEST(ReportRun, WithoutAPrinterAFileIsOffered) {
+  const TemporaryFolder folder;
+  FolderDesktop desktop(folder.path());
+  createDeliveredLogbook(folder.file("Logbuch.mdb"));
+  QTimer::singleShot(0, [] {
+    auto* dialog = QApplication::activeModalWidget();
+    auto& printers = *dialog->findChild<QComboBox*>();
+    printers.setCurrentText("PDF file");
+    EXPECT_EQ(printers.currentIndex(), printers.count() - 1);
+    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+  });
+  EXPECT_TRUE(desktop.setUpPrinter());
+  desktop.files = {folder.file("list"), folder.file("card"), folder.file("text"),
+                   folder.file("none/x")};
+  const auto print = [&](const std::string& source) {
+    desktop.runReport({.templatePath = folder.write("Some.rpt", source),
+                       .destination = ReportDestination::Printer});
+  };
+  print("rows: Logbuch\ncolumn: # | 9 | left | {{Nr}}");
+  print("<p>A card</p>");
   desktop.printText("text");
-  const std::string none = "There is no printer. Please set one up in your system and try again.";
-  EXPECT_EQ(desktop.told, (std::vector<std::string>{none, none}));
+  for (const char* name : {"list.pdf", "card.pdf", "text.pdf"})
+    EXPECT_TRUE(readFile(folder.file(name)).starts_with("%PDF-")) << name;
+  EXPECT_TRUE(desktop.told.empty());
+  print("<p>into no folder, and then nowhere</p>");
+  EXPECT_EQ(desktop.told.size(), 1U);
 }
 
 }  // namespace

@@ -6,7 +6,12 @@
 #include "platform/qt/report_pages.h"
 
 #ifndef Q_OS_WIN
+#include <sys/resource.h>
 #include <sys/stat.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
 #endif
 
 namespace nautrel {
@@ -163,6 +168,7 @@ TEST(ReportOnPaper, TurnsThePaperWhenTheColumnsNeedIt) {
     report.cells[0] = std::string(static_cast<std::size_t>(length), 'n');
     report.layout.paper = paper;
     EXPECT_EQ(layOut(report, a4())->paper().orientation(), orientation) << length;
+    EXPECT_EQ(layOut(report, a4(), Turning::Never)->paper(), a4());
   }
 }
 
@@ -306,14 +312,39 @@ TEST(ReportOnPaper, ATemplateShowsPicturesOfItsFolderAlone) {
     }
 }
 
+std::string faultOfSaving(const ReportPages& pages, const std::string& path) {
+  try {
+    savePdf(pages, toQt(path), "List");
+  } catch (const ReportFault& fault) {
+    return fault.text;
+  }
+  return {};
+}
+
 TEST(ReportOnPaper, SavesAsPdf) {
   const TemporaryFolder folder;
   const auto pages = layOut(numbered(100), a4());
-  EXPECT_TRUE(savePdf(*pages, toQt(folder.file("list.pdf")), "List"));
-  const auto pdf = readFile(folder.file("list.pdf"));
+  const auto path = folder.file("list.pdf");
+  EXPECT_EQ(faultOfSaving(*pages, path), "");
+  const auto pdf = readFile(path);
   EXPECT_TRUE(pdf.starts_with("%PDF-"));
   EXPECT_NE(pdf.find("/Count " + std::to_string(pages->count())), std::string::npos);
-  EXPECT_FALSE(savePdf(*pages, toQt(folder.file("no such folder/list.pdf")), "List"));
+  const std::string told = "The PDF could not be saved: ";
+  EXPECT_TRUE(faultOfSaving(*pages, folder.file("no such folder/list.pdf")).starts_with(told));
+#ifndef Q_OS_WIN
+  // A file that may not grow stands for a disk that is full.
+  signal(SIGXFSZ, SIG_IGN);
+  for (const auto most : {std::size_t{10}, pdf.size() / 2, pdf.size() - 10}) {
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small{most, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    const auto fault = faultOfSaving(*pages, path);
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(fault, told + std::strerror(EFBIG)) << most;
+    EXPECT_EQ(readFile(path), pdf) << most;
+  }
+#endif
 }
 
 }  // namespace

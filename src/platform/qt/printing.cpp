@@ -48,7 +48,7 @@ class SetUpDialog : public QDialog {
     offerPapers();
   }
 
-  QString printer() const { return printer_.isEnabled() ? printer_.currentText() : QString(); }
+  QString printer() const { return printer_.currentData().toString(); }
   QPageLayout paper() const {
     auto page = page_;
     page.setPageSize(paper_.currentData().value<QPageSize>());
@@ -69,10 +69,9 @@ class SetUpDialog : public QDialog {
   }
 
   void offerPrinters(const QString& chosen) {
-    printer_.addItems(QPrinterInfo::availablePrinterNames());
-    printer_.setCurrentText(chosen);
-    printer_.setEnabled(printer_.count() > 0);
-    if (printer_.count() == 0) printer_.addItem(QStringLiteral("There is no printer"));
+    for (const auto& name : QPrinterInfo::availablePrinterNames()) printer_.addItem(name, name);
+    printer_.addItem(QStringLiteral("PDF file"), QString());
+    printer_.setCurrentIndex(qMax(printer_.findData(chosen), 0));
   }
 
   // The paper stays if the printer has it too.
@@ -96,6 +95,10 @@ class SetUpDialog : public QDialog {
 }  // namespace
 
 QString PrinterSetUp::printer() const {
+  return toFile_ ? QString() : anyPrinter();
+}
+
+QString PrinterSetUp::anyPrinter() const {
   const auto present = QPrinterInfo::availablePrinterNames();
   if (present.contains(printer_)) return printer_;
   const auto usual = QPrinterInfo::defaultPrinterName();
@@ -109,6 +112,7 @@ QPageLayout PrinterSetUp::paper() const {
 
 void PrinterSetUp::choose(const QString& printer, const QPageLayout& paper) {
   printer_ = printer;
+  toFile_ = printer.isEmpty();
   paper_ = paper;
 }
 

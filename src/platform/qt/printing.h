@@ -11,14 +11,19 @@ namespace nautrel {
 /// a choice is kept for the run of the program.
 class PrinterSetUp {
  public:
-  /// The name of the printer that takes what is printed now; empty if the system has none.
+  /// The name of the printer that takes what is printed now; empty if it goes into a PDF file, by
+  /// choice or because the system has no printer.
   QString printer() const;
+  /// A printer to be offered whatever was chosen; empty if the system has none.
+  QString anyPrinter() const;
   /// Paper, orientation and margins.
   QPageLayout paper() const;
+  /// Without the name of a printer, a PDF file.
   void choose(const QString& printer, const QPageLayout& paper);
 
  private:
   QString printer_;
+  bool toFile_ = false;
   QPageLayout paper_;
 };
 

@@ -11,7 +11,6 @@
 namespace nautrel {
 
 class QtLooks;
-class ReportPages;
 
 /// The real desktop behind the door.
 class QtDesktop : public Desktop {
@@ -50,7 +49,6 @@ class QtDesktop : public Desktop {
   QPoint popupPlace(const Control* above) const;
   /// Runs a step of a report; its fault is told to the user and ends there.
   void telling(const std::function<void()>& step);
-  void preview(const ReportPages& pages, const QString& title);
 
   QtLooks* looks_ = nullptr;
   Locale locale_;

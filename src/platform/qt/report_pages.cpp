@@ -2,8 +2,10 @@
 
 #include <QPainter>
 #include <QPdfWriter>
+#include <QSaveFile>
 
 #include "platform/desktop.h"
+#include "platform/qt/convert.h"
 #include "platform/qt/report_list.h"
 #include "platform/qt/report_page.h"
 #include "platform/qt/report_style.h"
@@ -27,14 +29,14 @@ QRectF ReportPages::body() const {
   return twips(paper_.paintRect(QPageLayout::Point));
 }
 
-std::unique_ptr<ReportPages> layOut(ReportDocument report, QPageLayout paper) {
+std::unique_ptr<ReportPages> layOut(ReportDocument report, QPageLayout paper, Turning turning) {
   auto* list = std::get_if<ListReport>(&report);
   if (list == nullptr)
     return std::make_unique<ReportPage>(std::get<PageReport>(std::move(report)), paper);
   ListCells cells(list->cells, list->layout);
-  const auto turned = turnedFor(list->layout, cells.needs(), paper);
+  if (turning == Turning::AsNeeded) paper = turnedFor(list->layout, cells.needs(), paper);
   return std::make_unique<ReportList>(std::move(*list), std::move(list->layout), std::move(cells),
-                                      turned);
+                                      paper);
 }
 
 bool printPages(const ReportPages& pages, QPagedPaintDevice& device, int first, int last) {
@@ -54,12 +56,25 @@ bool printPages(const ReportPages& pages, QPagedPaintDevice& device, int first, 
   return painter.end();
 }
 
-bool savePdf(const ReportPages& pages, const QString& path, const QString& title) {
-  QPdfWriter writer(path);
-  writer.setTitle(title);
-  writer.setCreator(QString::fromUtf8(kApplicationTitle));
-  writer.setResolution(kTwipsPerInch);
-  return printPages(pages, writer, 0, pages.count() - 1);
+// A painter says nothing about a full disk, so the file is asked. After a write that was cut short
+// it knows the reason only from the next one.
+void savePdf(const ReportPages& pages, const QString& path, const QString& title) {
+  QSaveFile file(path);
+  file.setDirectWriteFallback(true);
+  bool written = file.open(QIODevice::WriteOnly);
+  if (written) {
+    QPdfWriter writer(&file);
+    writer.setTitle(title);
+    writer.setCreator(QString::fromUtf8(kApplicationTitle));
+    writer.setResolution(kTwipsPerInch);
+    written = printPages(pages, writer, 0, pages.count() - 1);
+  }
+  written = written && (file.flush() || file.flush()) && file.error() == QFileDevice::NoError;
+  auto reason = file.errorString();
+  if (written && file.commit()) return;
+  if (written) reason = file.errorString();
+  file.cancelWriting();
+  throw ReportFault{"The PDF could not be saved: " + fromQt(reason)};
 }
 
 }  // namespace nautrel

@@ -30,13 +30,17 @@ class ReportPages {
   QPageLayout paper_;
 };
 
-/// Lays a report out on the paper chosen; a list may turn it to landscape.
-std::unique_ptr<ReportPages> layOut(ReportDocument report, QPageLayout paper);
+/// Whether a list may turn the paper to landscape.
+enum class Turning { AsNeeded, Never };
+
+/// Lays a report out on the paper chosen. Raises ReportFault for what cannot be laid out.
+std::unique_ptr<ReportPages> layOut(ReportDocument report, QPageLayout paper,
+                                    Turning turning = Turning::AsNeeded);
 
 /// Prints the pages from `first` to `last`, counted from 0. False if the device takes none.
 bool printPages(const ReportPages& pages, QPagedPaintDevice& device, int first, int last);
 
-/// Writes all pages into a file. False if it cannot be written.
-bool savePdf(const ReportPages& pages, const QString& path, const QString& title);
+/// Writes all pages into a file, which stays as it was if that fails. Raises ReportFault.
+void savePdf(const ReportPages& pages, const QString& path, const QString& title);
 
 }  // namespace nautrel

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
@@ -53,8 +54,32 @@ ReportPreview::ReportPreview(const ReportPages& pages, const QString& title, QWi
   layout->addWidget(area_);
   connect(area_->verticalScrollBar(), &QScrollBar::valueChanged, this,
           [this] { followScrolling(); });
+  addKeys();
   area_->setFocus();
-  resize(kOpeningSize);
+  fitScreen();
+}
+
+// The window with its frame stays on its screen, at any scale.
+void ReportPreview::fitScreen() {
+  constexpr QSize kFrame(16, 48);
+  const QWidget* above = parentWidget() != nullptr ? parentWidget() : this;
+  const QSize room = above->screen()->availableGeometry().size() - kFrame;
+  resize(kOpeningSize.boundedTo(room));
+}
+
+void ReportPreview::addKeys() {
+  const auto key = [this](std::initializer_list<QKeySequence> keys,
+                          const std::function<void()>& run) {
+    auto* action = new QAction(this);
+    action->setShortcuts(keys);
+    connect(action, &QAction::triggered, this, run);
+    addAction(action);
+  };
+  key({Qt::Key_Home, Qt::CTRL | Qt::Key_Home}, [this] { showPage(1); });
+  key({Qt::Key_End, Qt::CTRL | Qt::Key_End},
+      [this] { area_->verticalScrollBar()->setValue(area_->verticalScrollBar()->maximum()); });
+  key({Qt::Key_PageUp}, [this] { leaf(-1); });
+  key({Qt::Key_PageDown}, [this] { leaf(1); });
 }
 
 QToolBar* ReportPreview::makeToolBar() {
@@ -86,7 +111,10 @@ void ReportPreview::addLeafing(QToolBar& bar) {
   page_->setAlignment(Qt::AlignCenter);
   page_->setAccessibleName(QStringLiteral("Page"));
   bar.addWidget(page_);
-  connect(page_, &QSpinBox::valueChanged, this, [this](int page) { showPage(page); });
+  connect(page_, &QSpinBox::valueChanged, this, [this](int page) {
+    showPage(page);
+    area_->setFocus();
+  });
   arrow("nav_next", QStringLiteral("Next page"), [this] { showPage(page_->value() + 1); });
   arrow("nav_last", QStringLiteral("Last page"), [this] { showPage(pages_.count()); });
 }
@@ -108,17 +136,20 @@ void ReportPreview::addZoom(QToolBar& bar) {
   })->setToolTip(QStringLiteral("Larger"));
 }
 
+// What stands at the top of the view stays there; a page that fits begins there.
 void ReportPreview::applyZoom() {
-  const int page = page_->value();
   const int choice = zoom_->currentData().toInt();
   const QSize room = area_->viewport()->size();
+  auto& bar = *area_->verticalScrollBar();
+  const int page = choice == kWholePage ? page_->value() - 1 : view_->pageAt(bar.value());
+  const double into = static_cast<double>(bar.value() - view_->topOf(page)) / view_->topOf(1);
   if (choice == kWholePage)
     view_->fit(room);
   else if (choice == kPageWidth)
     view_->fit({room.width(), QWIDGETSIZE_MAX});
   else
     view_->setZoom(choice / 100.0);
-  area_->verticalScrollBar()->setValue(view_->topOf(page - 1));
+  bar.setValue(view_->topOf(page) + (choice == kWholePage ? 0 : qRound(into * view_->topOf(1))));
 }
 
 // From a fitted page to the next of the fixed steps.
@@ -142,22 +173,40 @@ void ReportPreview::showPage(int page) {
   page_->setValue(shown);
 }
 
+// By whole pages where they fit, otherwise by what shows of one.
+void ReportPreview::leaf(int direction) {
+  const bool fits = view_->topOf(1) <= area_->viewport()->height();
+  if (fits)
+    showPage(page_->value() + direction);
+  else
+    area_->verticalScrollBar()->triggerAction(direction > 0 ? QAbstractSlider::SliderPageStepAdd
+                                                            : QAbstractSlider::SliderPageStepSub);
+}
+
 void ReportPreview::followScrolling() {
   const QSignalBlocker quiet(page_);
   const int middle = area_->verticalScrollBar()->value() + area_->viewport()->height() / 3;
   page_->setValue(view_->pageAt(middle) + 1);
 }
 
-bool ReportPreview::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Resize && zoom_->currentData().toInt() <= 0) applyZoom();
-  return QDialog::eventFilter(watched, event);
+// Fine wheels turn in small parts of a notch.
+void ReportPreview::turnWheel(int angle) {
+  constexpr int kNotch = QWheelEvent::DefaultDeltasPerStep;
+  wheel_ += angle;
+  for (; wheel_ >= kNotch; wheel_ -= kNotch) stepZoom(1);
+  for (; wheel_ <= -kNotch; wheel_ += kNotch) stepZoom(-1);
 }
 
-void ReportPreview::wheelEvent(QWheelEvent* event) {
-  if (event->modifiers().testFlag(Qt::ControlModifier))
-    stepZoom(event->angleDelta().y() > 0 ? 1 : -1);
-  else
-    QDialog::wheelEvent(event);
+bool ReportPreview::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize && zoom_->currentData().toInt() <= 0) applyZoom();
+  if (event->type() == QEvent::Wheel) {
+    const auto& wheel = static_cast<const QWheelEvent&>(*event);
+    if (wheel.modifiers().testFlag(Qt::ControlModifier)) {
+      turnWheel(wheel.angleDelta().y());
+      return true;
+    }
+  }
+  return QDialog::eventFilter(watched, event);
 }
 
 }  // namespace nautrel

@@ -27,15 +27,18 @@ class ReportPreview : public QDialog {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void wheelEvent(QWheelEvent* event) override;
 
  private:
   QToolBar* makeToolBar();
   void addLeafing(QToolBar& bar);
   void addZoom(QToolBar& bar);
+  void addKeys();
+  void fitScreen();
   void applyZoom();
   void stepZoom(int direction);
+  void turnWheel(int angle);
   void showPage(int page);
+  void leaf(int direction);
   void followScrolling();
 
   const ReportPages& pages_;
@@ -43,6 +46,7 @@ class ReportPreview : public QDialog {
   PagesView* view_;
   QSpinBox* page_ = nullptr;
   QComboBox* zoom_ = nullptr;
+  int wheel_ = 0;  // what is left of its turning, in eighths of a degree
 };
 
 }  // namespace nautrel

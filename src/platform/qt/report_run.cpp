@@ -1,5 +1,6 @@
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QRegularExpression>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/printing.h"
@@ -12,13 +13,10 @@ namespace {
 
 constexpr int kExclamation = 48;
 
-/// Raises ReportFault if the system has no printer.
-std::unique_ptr<QPrinter> printerOf(const PrinterSetUp& setUp) {
-  const auto name = setUp.printer();
-  if (name.isEmpty())
-    throw ReportFault{"There is no printer. Please set one up in your system and try again."};
+std::unique_ptr<QPrinter> printerNamed(const QString& name, const QPageLayout& paper) {
   auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
   printer->setPrinterName(name);
+  printer->setPageLayout(paper);
   return printer;
 }
 
@@ -30,25 +28,68 @@ void printOn(QPrinter& printer, const ReportPages& pages, const QString& title) 
     throw ReportFault{"The printer " + fromQt(printer.printerName()) + " takes no pages."};
 }
 
-void printAsked(const PrinterSetUp& setUp, const ReportPages& pages, ReportPreview& preview) {
-  const auto printer = printerOf(setUp);
-  QPrintDialog dialog(printer.get(), &preview);
-  // Its own way into a file would pass the door; the preview has "Save as PDF" for that.
-  dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
-  dialog.setOption(QAbstractPrintDialog::PrintPageRange);
-  dialog.setMinMax(1, pages.count());
-  if (dialog.exec() == QDialog::Accepted) printOn(*printer, pages, preview.windowTitle());
+/// A name for the report's file that every system takes.
+std::string pdfName(const ReportDocument& report, const QString& otherwise) {
+  static const QRegularExpression unfit(QStringLiteral(R"([\x00-\x1F<>:"/\\|?*]+)"));
+  const auto& title = std::visit([](const ReportFrame& frame) { return frame.title; }, report);
+  const QString name = toQt(title).replace(unfit, QStringLiteral(" ")).simplified();
+  return fromQt(name.isEmpty() ? otherwise : name) + ".pdf";
 }
 
-void saveAsked(Desktop& desktop, const ReportPages& pages, const QString& title) {
-  const auto path = desktop.saveFile({.title = "Save as PDF",
-                                      .filter = "PDF|*.pdf",
-                                      .fileName = fromQt(title) + ".pdf",
-                                      .flags = 2,
-                                      .ending = ".pdf"});
-  if (path && !savePdf(pages, toQt(*path), title))
-    throw ReportFault{"The file " + *path + " cannot be written."};
-}
+/// A report on its way to paper or into a file.
+class Printout {
+ public:
+  Printout(Desktop& desktop, const PrinterSetUp& setUp, ReportDocument report, QString title)
+      : desktop_(desktop),
+        setUp_(setUp),
+        report_(std::move(report)),
+        title_(std::move(title)),
+        pages_(layOut(report_, setUp.paper())) {}
+
+  const ReportPages& pages() const { return *pages_; }
+
+  /// As the set-up says.
+  void print() {
+    const auto name = setUp_.printer();
+    if (name.isEmpty()) return save();
+    printOn(*printerNamed(name, pages_->paper()), *pages_, title_);
+  }
+
+  /// On the printer, the paper and the pages that the user chooses; without any printer into a
+  /// file.
+  void printAsked(QWidget& parent) {
+    const auto name = setUp_.anyPrinter();
+    if (name.isEmpty()) return save();
+    const auto printer = printerNamed(name, pages_->paper());
+    const auto offered = printer->pageLayout();
+    QPrintDialog dialog(printer.get(), &parent);
+    // Its own way into a file would pass the door; the preview has "Save as PDF" for that.
+    dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+    dialog.setMinMax(1, pages_->count());
+    if (dialog.exec() != QDialog::Accepted) return;
+    if (printer->pageLayout().isEquivalentTo(offered))
+      printOn(*printer, *pages_, title_);
+    else
+      printOn(*printer, *layOut(report_, printer->pageLayout(), Turning::Never), title_);
+  }
+
+  void save() {
+    const auto path = desktop_.saveFile({.title = "Save as PDF",
+                                         .filter = "PDF|*.pdf",
+                                         .fileName = pdfName(report_, title_),
+                                         .flags = 2,
+                                         .ending = ".pdf"});
+    if (path) savePdf(*pages_, toQt(*path), title_);
+  }
+
+ private:
+  Desktop& desktop_;
+  const PrinterSetUp& setUp_;
+  ReportDocument report_;
+  QString title_;
+  std::unique_ptr<ReportPages> pages_;
+};
 
 }  // namespace
 
@@ -60,32 +101,23 @@ void QtDesktop::telling(const std::function<void()>& step) {
   }
 }
 
-void QtDesktop::preview(const ReportPages& pages, const QString& title) {
-  ReportPreview window(pages, title, parentWindow());
-  window.print = [&] { telling([&] { printAsked(printer_, pages, window); }); };
-  window.save = [&] { telling([&] { saveAsked(*this, pages, title); }); };
-  window.exec();
-}
-
 void QtDesktop::run(const ReportJob& job) {
   telling([&] {
     const auto title = toQt(job.windowTitle.empty() ? kApplicationTitle : job.windowTitle);
-    const bool toScreen = job.destination == ReportDestination::Preview;
-    const auto printer = toScreen ? nullptr : printerOf(printer_);
-    const auto pages = layOut(makeReport(job, currentTime(), currentLocale()), printer_.paper());
-    if (toScreen)
-      preview(*pages, title);
-    else
-      printOn(*printer, *pages, title);
+    Printout printout(*this, printer_, makeReport(job, currentTime(), currentLocale()), title);
+    if (job.destination == ReportDestination::Printer) return printout.print();
+    ReportPreview window(printout.pages(), title, parentWindow());
+    window.print = [&] { telling([&] { printout.printAsked(window); }); };
+    window.save = [&] { telling([&] { printout.save(); }); };
+    window.exec();
   });
 }
 
 void QtDesktop::print(const std::string& text) {
   telling([&] {
-    const auto printer = printerOf(printer_);
     const auto html = QStringLiteral("<pre>%1</pre>").arg(toQt(text).toHtmlEscaped());
-    printOn(*printer, *layOut(PageReport{{}, fromQt(html)}, printer_.paper()),
-            QString::fromUtf8(kApplicationTitle));
+    Printout(*this, printer_, PageReport{{}, fromQt(html)}, QString::fromUtf8(kApplicationTitle))
+        .print();
   });
 }
 
