@@ -22,12 +22,12 @@ Form2::Form2(Nautrel& app)
   Command1.setDefault(true);
   Command3.setCancel();
   SSTab1.pageHolds(0, {&Check1, &Check2, &Check3, &Check4, &Check5, &Command4});
-  setTabOrder({&Text2,   &Text3,   &Text4,    &Text5,    &Text6,    &Text7,    &Text8,
-               &Text9,   &Text10,  &Check2,   &Check3,   &Check4,   &Command4, &Check1,
-               &Check5,  &Text1,   &Text11,   &Frame1,   &Option1,  &Option2,  &Option3,
-               &Option4, &Check6,  &Check7,   &Text14,   &Text15,   &Text16,   &Text19,
-               &Option5, &Option6, &Text17,   &Text13,   &Text18,   &Option7,  &Option8,
-               &Option9, &Text21,  &Command5, &Command1, &Command2, &Command3, &SSTab1});
+  setTabOrder({&Text2,    &Text3,   &Text4,   &Text5,   &Text6,   &Text7,    &Text8,    &Text9,
+               &Text10,   &Text11,  &Option1, &Option2, &Option3, &Option4,  &Check6,   &Check7,
+               &Text14,   &Text15,  &Text16,  &Text19,  &Option5, &Option6,  &Text17,   &Text13,
+               &Text18,   &Option7, &Option8, &Option9, &Text21,  &Command5, &Command1, &Command2,
+               &Command3, &Check2,  &Check3,  &Check4,  &Check1,  &Check5,   &Command4, &SSTab1});
+  Text1.setTabStop(false);
   Command1.Click = [this] { Command1_Click(); };
   Command2.Click = [this] { Command2_Click(); };
   Command3.Click = [this] { Command3_Click(); };

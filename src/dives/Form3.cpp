@@ -24,7 +24,7 @@ Form3::Form3(Nautrel& app)
   SSTab1.pageHolds(2, {&Text14, &Text15, &Text16, &Text19, &Label21, &Label24, &Label25, &Label30,
                        &Frame3, &Frame5});
   SSTab1.pageHolds(3, {&Text12, &Image4, &Image5});
-  setTabOrder({&Command1, &Command3, &SSTab1, &List1, &Text1, &Text2, &Text3, &Text4, &Text5,
+  setTabOrder({&List1, &Command1, &Command3, &SSTab1, &Text1, &Text2, &Text3, &Text4, &Text5,
                &Text8, &Text9, &Text10});
   Command3.setCancel();
   Data1.Reposition = [this] { Data1_Reposition(); };

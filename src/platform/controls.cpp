@@ -240,17 +240,42 @@ void ListBox::setListIndex(int index) {
 void ListBox::userSelect(int index) {
   form().program().handle([&] {
     changed();
-    if (!canTakeFocus() || !form().enabled()) return;
-    if (!takeFocus() || index < 0 || index >= ListCount()) return;
-    index_ = index;
-    raiseEvent(Click);
+    if (canTakeFocus() && form().enabled() && index >= 0 && index < ListCount()) choose(index);
   });
 }
 
-void ListBox::userDoubleClick() {
-  form().program().handle([this] {
-    if (canTakeFocus() && form().enabled()) raiseEvent(DblClick);
+void ListBox::choose(int index) {
+  if (!takeFocus()) return;
+  index_ = index;
+  changed();
+  raiseEvent(Click);
+}
+
+void ListBox::userDoubleClick(int index) {
+  form().program().handle([&] {
+    if (!canTakeFocus() || !form().enabled()) return;
+    if (lines_.empty()) return raiseEvent(DblClick);
+    if (index < 0 || index >= ListCount()) return;
+    if (index != index_) choose(index);
+    if (hasFocus() && index == index_) raiseEvent(DblClick);
   });
+}
+
+void ListBox::userMove(int by) {
+  if (lines_.empty()) return;
+  const int target = std::clamp(index_ + by, 0, ListCount() - 1);
+  if (target != index_) userSelect(target);
+}
+
+void ListBox::userSearch(std::string_view beginning, bool further) {
+  const int size = ListCount();
+  const int first = index_ < 0 ? 0 : index_ + (further ? 1 : 0);
+  for (int step = 0; step < size; ++step) {
+    const int line = (first + step) % size;
+    if (!lines_[static_cast<std::size_t>(line)].starts_with(beginning)) continue;
+    if (line != index_) userSelect(line);
+    return;
+  }
 }
 
 ComboBox::ComboBox(Form& form, std::string name, Style style, std::vector<std::string> lines)
@@ -264,10 +289,13 @@ void ComboBox::AddItem(std::string line) {
 void ComboBox::setText(const std::string& text) {
   const auto line = std::find(lines_.begin(), lines_.end(), text);
   if (style_ == Style::ListOnly && line == lines_.end()) raise(TextIsReadOnly);
-  if (text_ == text) return;
+  const int index = style_ == Style::ListOnly ? static_cast<int>(line - lines_.begin()) : -1;
+  if (text_ == text && index_ == index) return;
+  const bool same = text_ == text;
   text_ = text;
-  index_ = style_ == Style::ListOnly ? static_cast<int>(line - lines_.begin()) : -1;
+  index_ = index;
   changed();
+  if (same) return;
   raiseEvent(style_ == Style::ListOnly ? Click : Change);
 }
 

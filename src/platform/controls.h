@@ -176,11 +176,23 @@ class ListBox : public Control {
   Event Click;
   Event DblClick;
 
+  /// What the user does at the list. Where there is no line, nothing happens.
+  /// @{
+  /// A press on a line: the focus moves first.
   void userSelect(int index);
-  void userDoubleClick();
+  /// A double press on a line, or on an empty list: -1.
+  void userDoubleClick(int index);
+  /// A key that goes up or down by a number of lines, and stops at the ends.
+  void userMove(int by);
+  /// Typing: the next line that begins with the text, in a circle; `further` looks behind the line
+  /// that is selected first.
+  void userSearch(std::string_view beginning, bool further);
+  /// @}
   bool takesFocus() const override { return true; }
 
  private:
+  void choose(int index);
+
   std::vector<std::string> lines_;
   int index_ = -1;
   unsigned generation_ = 0;

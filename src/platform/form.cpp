@@ -237,7 +237,7 @@ void Form::userKey(Key key) {
         else if (auto* spin = dynamic_cast<SpinButton*>(focused))
           spin->userSpin(key == Key::Up);
         else if (auto* list = dynamic_cast<ListBox*>(focused))
-          list->userSelect(list->ListIndex() + (key == Key::Down ? 1 : -1));
+          list->userMove(key == Key::Down ? 1 : -1);
         return;
       case Key::Space:
         if (auto* button = dynamic_cast<Button*>(focused)) button->userClick();

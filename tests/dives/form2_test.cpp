@@ -41,6 +41,18 @@ TEST_F(InsertDive, AnEmptyLogbookComesToLifeWhenTheWindowCloses) {
                                  "Anna", "", "No", ""}}));
 }
 
+TEST_F(InsertDive, BehindTheDepthComeTheButtonsAndThenTheMarks) {
+  auto& form = open();
+  Texts stops;
+  do {
+    stops.push_back(form.activeControl()->name());
+    press(form, Key::Tab);
+  } while (form.activeControl() != &form.Text2);
+  EXPECT_EQ(stops, (Texts{"Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8", "Text9",
+                          "Text10", "Command1", "Command2", "Command3", "Check2", "Check3",
+                          "Check4", "Check1", "Check5", "Command4", "SSTab1"}));
+}
+
 TEST_F(InsertDive, TheNextDiveKeepsWhatIsMarkedAndTheTank) {
   auto& form = open();
   fill(form);

@@ -63,6 +63,23 @@ TEST_F(ViewLogbook, AJumpMovesInsideTheRangeAndSaysNothing) {
   }
 }
 
+TEST_F(ViewLogbook, ArrowsLeafAtOnceAndDigitsGoToADive) {
+  addDives(1, 30);
+  auto& form = open();
+  press(form, Key::Down);
+  EXPECT_EQ(form.Text1.text(), "2");
+  press(form, Key::Up);
+  press(form, Key::Up);
+  EXPECT_EQ(form.Text1.text(), "1");
+  form.List1.userSearch("2", true);
+  form.List1.userSearch("27", false);
+  EXPECT_EQ(form.Text1.text(), "27");
+  form.List1.userSearch("2", true);
+  EXPECT_EQ(form.Text1.text(), "28");
+  form.List1.userSearch("x", true);
+  EXPECT_EQ(form.List1.text(), "28");
+}
+
 TEST_F(ViewLogbook, NumberedFromElsewhereThanOneTheListDoesNotFollowAJump) {
   addDives(301, 310);
   auto& form = open();

@@ -10,8 +10,10 @@
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <set>
 
+#include "calculators/Form21.h"
 #include "dives/Form2.h"
 #include "dives/Form3.h"
 #include "gui/gui_test.h"
@@ -212,6 +214,67 @@ TEST_F(Look, TheListLeadsAndFollowsTheNavigatorLeavesTheFocusAndTheFrameCloses) 
   qobject_cast<QMdiSubWindow*>(window(form))->close();
   settle();
   EXPECT_FALSE(app->loaded(3));
+}
+
+TEST_F(Look, TheContextMenuBelongsToTheGroundAlone) {
+  addDives(1, 2);
+  auto& form = insert();
+  auto* ground = looks->mainFrame()->area().viewport();
+  const auto rightClick = [&](QWidget& target, QPoint place) {
+    QTimer::singleShot(0, [] {
+      if (auto* menu = QApplication::activePopupWidget()) menu->close();
+    });
+    QTest::mouseClick(target.window()->windowHandle(), Qt::RightButton, {},
+                      target.mapTo(target.window(), place));
+    settle();
+  };
+  rightClick(*window(form), window(form)->rect().bottomRight() - QPoint(8, 8));
+  rightClick(*window(form), {window(form)->width() / 2, 10});
+  rightClick(widget(form.Check2), {3, 3});
+  EXPECT_EQ(desktop->popups.size(), 0u);
+  desktop->answerMenu("Menü6c");
+  rightClick(*ground, {5, 5});
+  EXPECT_TRUE(app->loaded(3));
+}
+
+TEST_F(Look, ComingBackToAWindowRunsNoRuleAndFindsTheFocusWhereItWasLeft) {
+  auto& form = insert();
+  mouse(form.Text5);
+  keys("0");
+  auto* frame = qobject_cast<QMdiSubWindow*>(window(form));
+  const auto leave = [&] {
+    click(app->MDIForm1().Menü7a);
+    settle();
+    EXPECT_FALSE(frame->isAncestorOf(QApplication::focusWidget()));
+  };
+  const std::pair<const char*, std::function<void()>> ways[] = {
+      {"title",
+       [&] {
+         window(app->Form21())->move(0, 0);
+         QTest::mouseClick(frame, Qt::LeftButton, {}, {frame->width() / 2, 10});
+       }},
+      {"key", [&] { key(Qt::Key_F6, Qt::ControlModifier); }},
+      {"code", [&] { app->handle([&] { form.SetFocus(); }); }},
+      {"the other's own button", [&] { key(Qt::Key_Escape); }},
+      {"another program", [&] {
+         form.userActivated();
+         QWidget other;
+         other.show();
+         other.activateWindow();
+         settle();
+         looks->mainFrame()->window().activateWindow();
+       }}};
+  for (const auto& [way, comeBack] : ways) {
+    leave();
+    // The toolkit remembers for its window where the focus was last, right or wrong.
+    widget(form.Text2).setFocus();
+    leave();
+    comeBack();
+    settle();
+    EXPECT_EQ(app->activeForm(), &form) << way;
+    expectFocus(form.Text5);
+    EXPECT_EQ(desktop->texts(), std::vector<std::string>{}) << way;
+  }
 }
 
 TEST_F(Look, TheStatusBarGivesWayToTheProgress) {

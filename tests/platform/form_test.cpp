@@ -178,6 +178,10 @@ TEST_F(FormTest, ListsRefuseWhatIsNotThere) {
   window.Lines.setListIndex(0);
   window.Lines.setListIndex(0);
   EXPECT_EQ(clicks, 1);
+  window.taken();
+  click(window.Lines, 1);
+  doubleClick(window.Lines, -1);
+  EXPECT_EQ(window.taken(), Texts{}) << "where no line is, nothing happens, and no focus moves";
   EXPECT_EQ(failureOf([&] { window.Lines.setListIndex(1); }), InvalidPropertyValue);
   EXPECT_EQ(window.Lines.List(7), "");
   EXPECT_EQ(failureOf([&] { window.Choice.setText("c"); }), TextIsReadOnly);

@@ -127,7 +127,7 @@ TEST_F(RoadTest, BeginsWithADoubleClickAndNotWithoutASelectedLine) {
 
 TEST_F(RoadTest, DoubleClickOnAnEmptyListEndsTheProgram) {
   startWithHits();
-  words().List1.userDoubleClick();
+  doubleClick(words().List1, -1);
   ASSERT_TRUE(desktop->failure());
   EXPECT_EQ(desktop->failure()->number, TypeMismatch);
 }

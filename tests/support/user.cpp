@@ -58,7 +58,7 @@ void click(ListBox& list, int line) {
 
 void doubleClick(ListBox& list, int line) {
   list.userSelect(line);
-  list.userDoubleClick();
+  list.userDoubleClick(line);
 }
 
 void choose(ComboBox& box, int line) {

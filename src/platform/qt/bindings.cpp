@@ -219,6 +219,7 @@ class ComboBinding : public Binding {
  public:
   ComboBinding(ComboBox& box, QComboBox& widget) : Binding(box, widget), box_(box), out_(widget) {
     const bool free = box.style() == ComboBox::Style::FreeText;
+    widget.setFocusPolicy(Qt::StrongFocus);
     widget.setEditable(free);
     if (free) {
       widget.setInsertPolicy(QComboBox::NoInsert);
@@ -231,11 +232,17 @@ class ComboBinding : public Binding {
   }
 
  protected:
+  bool filter(QEvent* event) override {
+    if (event->type() != QEvent::Wheel || box_.hasFocus()) return false;
+    event->ignore();
+    return true;
+  }
   void pushContent() override {
     const auto& lines = box_.lines();
     while (out_.count() < static_cast<int>(lines.size()))
       out_.addItem(toQt(lines[static_cast<std::size_t>(out_.count())]));
-    if (box_.style() == ComboBox::Style::ListOnly) return out_.setCurrentIndex(box_.ListIndex());
+    if (out_.currentIndex() != box_.ListIndex()) out_.setCurrentIndex(box_.ListIndex());
+    if (box_.style() == ComboBox::Style::ListOnly) return;
     if (const auto text = toQt(box_.text()); out_.currentText() != text) out_.setEditText(text);
   }
 

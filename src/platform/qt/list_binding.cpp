@@ -1,19 +1,11 @@
 #include "platform/qt/list_binding.h"
 
 #include <QAbstractListModel>
-#include <QKeyEvent>
 #include <QSignalBlocker>
 
-#include "platform/form.h"
 #include "platform/qt/convert.h"
 
 namespace nautrel {
-
-ListView::ListView(QWidget* parent) : QListView(parent) {
-  setUniformItemSizes(true);
-  setEditTriggers(NoEditTriggers);
-  setSelectionMode(SingleSelection);
-}
 
 class LinesModel : public QAbstractListModel {
  public:
@@ -53,44 +45,31 @@ class LinesModel : public QAbstractListModel {
 ListBinding::ListBinding(ListBox& list, ListView& view)
     : Binding(list, view), list_(list), view_(view), lines_(new LinesModel(list, &view)) {
   view.setModel(lines_);
-  watch(*view.viewport());
-  connect(view.selectionModel(), &QItemSelectionModel::currentChanged, this,
-          [this](const QModelIndex& current) {
-            if (byKey_) userSelected(current.row());
-          });
-  connect(&view, &QListView::clicked, this,
-          [this](const QModelIndex& index) { userSelected(index.row()); });
+  bindUser();
+}
+
+// A line that is selected past the view's own events is chosen by an assistive tool.
+void ListBinding::bindUser() {
+  view_.pressed = [this](int row) { list_.userSelect(row); };
+  view_.doubleClicked = [this](int row) { list_.userDoubleClick(row); };
+  view_.moved = [this](int by) { list_.userMove(by); };
+  view_.typed = [this](const QString& beginning, bool further) {
+    list_.userSearch(fromQt(beginning), further);
+  };
+  connect(view_.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+    const auto rows = view_.selectionModel()->selectedRows();
+    list_.userSelect(rows.isEmpty() ? -1 : rows.front().row());
+  });
 }
 
 void ListBinding::release() {
   if (widget() != nullptr) {
+    view_.selectionModel()->disconnect(this);
     lines_->release();
-    view_.viewport()->removeEventFilter(this);
+    view_.pressed = view_.doubleClicked = view_.moved = nullptr;
+    view_.typed = nullptr;
   }
   Binding::release();
-}
-
-void ListBinding::userSelected(int row) {
-  if (row >= 0) list_.userSelect(row);
-}
-
-bool ListBinding::filter(QEvent* event) {
-  switch (event->type()) {
-    case QEvent::KeyPress:
-      byKey_ = true;
-      return false;
-    case QEvent::KeyRelease:
-      byKey_ = false;
-      return false;
-    case QEvent::MouseButtonPress:
-      byKey_ = false;
-      return !list_.hasFocus();
-    case QEvent::MouseButtonDblClick:
-      list_.userDoubleClick();
-      return true;
-    default:
-      return false;
-  }
 }
 
 void ListBinding::pushContent() {

@@ -1,17 +1,10 @@
 #pragma once
 
-#include <QListView>
-
 #include "platform/controls.h"
 #include "platform/qt/binding.h"
+#include "platform/qt/list_view.h"
 
 namespace nautrel {
-
-/// A list of lines in a window's design; ListBinding gives it its lines.
-class ListView : public QListView {
- public:
-  explicit ListView(QWidget* parent = nullptr);
-};
 
 class LinesModel;
 
@@ -22,16 +15,14 @@ class ListBinding : public Binding {
   void release() override;
 
  protected:
-  bool filter(QEvent* event) override;
   void pushContent() override;
 
  private:
-  void userSelected(int row);
+  void bindUser();
 
   ListBox& list_;
   ListView& view_;
   LinesModel* lines_;
-  bool byKey_ = false;
 };
 
 }  // namespace nautrel

@@ -104,9 +104,17 @@ void Ground::paintEvent(QPaintEvent*) {
   painter.drawImage(target, *image);
 }
 
+// What nobody wants of the mouse inside a child comes by here, too.
+void Ground::mousePressEvent(QMouseEvent* event) {
+  QMdiArea::mousePressEvent(event);
+  pressed_ = event->button() == Qt::RightButton &&
+             viewport()->childAt(event->position().toPoint()) == nullptr;
+}
+
 void Ground::mouseReleaseEvent(QMouseEvent* event) {
   QMdiArea::mouseReleaseEvent(event);
-  if (event->button() == Qt::RightButton) form_.MDIForm_MouseUp(kRightButton);
+  if (event->button() == Qt::RightButton && std::exchange(pressed_, false))
+    form_.MDIForm_MouseUp(kRightButton);
 }
 
 MainFrame::MainFrame(QtLooks& looks, MDIForm1& form)

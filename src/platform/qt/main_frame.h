@@ -25,10 +25,12 @@ class Ground : public QMdiArea {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   MDIForm1& form_;
+  bool pressed_ = false;
   QColor color_;
   Picture picture_;
 };
