@@ -13,6 +13,12 @@ namespace fs = std::filesystem;
 constexpr int kWaitForOthers = 5000;      // ms, until a lock counts as an error
 constexpr int kWaitForCheckpoint = 1000;  // ms; what waits longer is safe in the synced log
 
+fs::path targetOf(const std::string& path) {
+  std::error_code failed;
+  const auto file = fromUtf8(path);
+  return fs::is_symlink(file, failed) ? fs::canonical(file, failed) : fs::path{};
+}
+
 /// The engine takes a missing file for CANTOPEN and an empty one for a new database.
 void requireLogbook(const std::string& path) {
   const fs::path file = fromUtf8(path);
@@ -56,8 +62,8 @@ fs::path fromUtf8(const std::string& path) {
   return fs::path(std::u8string(path.begin(), path.end()));
 }
 
-Connection::Connection(std::string path, std::shared_ptr<std::set<std::string>> written)
-    : path_(std::move(path)), written_(std::move(written)) {
+Connection::Connection(std::string path, std::weak_ptr<Unsettled> unsettled)
+    : path_(std::move(path)), target_(targetOf(path_)), unsettled_(std::move(unsettled)) {
   requireLogbook(path_);
   try {
     open(SQLITE_OPEN_READWRITE);
@@ -67,21 +73,12 @@ Connection::Connection(std::string path, std::shared_ptr<std::set<std::string>> 
   }
 }
 
-Connection::Connection(std::string path)
-    : path_(std::move(path)), written_(std::make_shared<std::set<std::string>>()) {}
+Connection::Connection(std::string path) : path_(std::move(path)) {}
 
 Connection Connection::create(std::string path) {
   Connection made(std::move(path));
   made.open(SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
   return made;
-}
-
-bool Connection::hasLog(const std::string& path) {
-  std::error_code failed;
-  auto log = fs::canonical(fromUtf8(path), failed);
-  log += "-wal";
-  const auto size = fs::file_size(log, failed);
-  return !failed && size > 0;
 }
 
 void Connection::open(int flags) {
@@ -99,7 +96,22 @@ void Connection::raiseFailure(int code) const {
   raise(failureFor(code), path_);
 }
 
+/// Where the system cannot tell, the file counts as unmoved.
+bool Connection::moved() const {
+  int moved = 0;
+  sqlite3_file_control(handle(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+  return moved != 0 || (!target_.empty() && targetOf(path_) != target_);
+}
+
+void Connection::requireSameFile() {
+  if (!moved()) return;
+  if (sqlite3_file* file = waits_ ? log() : nullptr) file->pMethods->xTruncate(file, 0);
+  std::error_code failed;
+  raise(fs::exists(fromUtf8(path_), failed) ? CannotOpenFile : DatabaseNotFound, path_);
+}
+
 void Connection::beforeWriting() {
+  requireSameFile();
   if (sqlite3_db_readonly(handle(), "main") == 1) raise(DatabaseReadOnly);
   if (std::exchange(logAhead_, true)) return;
   // A file that another tool left without the log would sync the disk at every single change. If
@@ -108,7 +120,8 @@ void Connection::beforeWriting() {
 }
 
 int Connection::rowsWritten() {
-  written_->insert(path_);
+  const auto unsettled = unsettled_.lock();
+  if (unsettled && !std::exchange(waits_, true)) unsettled->push_back(shared_from_this());
   return sqlite3_changes(handle());
 }
 
@@ -116,19 +129,26 @@ void Connection::checkpoint() {
   sqlite3_busy_timeout(handle(), kWaitForCheckpoint);
   const int code =
       sqlite3_wal_checkpoint_v2(handle(), "main", SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr);
-  if ((code & 0xff) == SQLITE_BUSY)
+  sqlite3_busy_timeout(handle(), kWaitForOthers);
+  if ((code & 0xff) == SQLITE_BUSY || (code & 0xff) == SQLITE_LOCKED)
     syncLog();
   else if (code != SQLITE_OK)
     raiseFailure(code);
+  waits_ = false;
+}
+
+/// Nothing where the file is kept without a log.
+sqlite3_file* Connection::log() const {
+  sqlite3_file* log = nullptr;
+  sqlite3_file_control(handle(), "main", SQLITE_FCNTL_JOURNAL_POINTER, &log);
+  return log != nullptr && log->pMethods != nullptr ? log : nullptr;
 }
 
 /// Another program that reads or writes for long keeps the log from being emptied. What was written
 /// is then safe in the log, which belongs to the file until the last program closes it.
 void Connection::syncLog() {
-  sqlite3_file* log = nullptr;
-  sqlite3_file_control(handle(), "main", SQLITE_FCNTL_JOURNAL_POINTER, &log);
-  if (log == nullptr || log->pMethods == nullptr) return;
-  const int code = log->pMethods->xSync(log, SQLITE_SYNC_NORMAL);
+  sqlite3_file* file = log();
+  const int code = file == nullptr ? SQLITE_OK : file->pMethods->xSync(file, SQLITE_SYNC_NORMAL);
   if (code != SQLITE_OK) raiseFailure(code);
 }
 

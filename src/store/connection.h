@@ -5,33 +5,39 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
-#include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/value.h"
 #include "store/contract.h"
 
 namespace nautrel {
 
+class Connection;
+/// The connections whose changes still wait in a log.
+using Unsettled = std::vector<std::shared_ptr<Connection>>;
+
 /// One open database file. Raises 3024, 3044, 3051, 3343.
-class Connection {
+class Connection : public std::enable_shared_from_this<Connection> {
  public:
-  /// `written` collects the paths that wait for settle().
-  Connection(std::string path, std::shared_ptr<std::set<std::string>> written);
+  /// With its first change it enters itself into `unsettled`.
+  Connection(std::string path, std::weak_ptr<Unsettled> unsettled);
 
   /// Makes the file if it is not there.
   static Connection create(std::string path);
 
-  /// Whether changes to the file may still wait in the log beside it.
-  static bool hasLog(const std::string& path);
+  const std::string& path() const { return path_; }
 
   sqlite3* handle() const { return handle_.get(); }
 
   /// Raises the run-time's failure for a result code of the engine.
   [[noreturn]] void raiseFailure(int code) const;
 
-  /// Must come before every change. Raises 3027.
+  /// Raises 3051 if another file stands at the path by now, 3024 if none does. Changes that wait in
+  /// the log are dropped then: there they would be taken for the other file's.
+  void requireSameFile();
+  /// Must come before every change. Raises 3027 and what requireSameFile() raises.
   void beforeWriting();
   /// The number of rows that the last change touched; notes that there is something to settle.
   int rowsWritten();
@@ -46,12 +52,16 @@ class Connection {
 
   explicit Connection(std::string path);
   void open(int flags);
+  bool moved() const;
+  sqlite3_file* log() const;
   void syncLog();
 
   std::string path_;
-  std::shared_ptr<std::set<std::string>> written_;
+  std::filesystem::path target_;  // of a path that is a link
+  std::weak_ptr<Unsettled> unsettled_;
   std::unique_ptr<sqlite3, Closer> handle_;
   bool logAhead_ = false;
+  bool waits_ = false;  // for settle()
 };
 
 /// A prepared statement. Places count from 1 in bind(), columns from 0.

@@ -9,19 +9,23 @@
 
 namespace nautrel {
 
-Workspace::Workspace() : written_(std::make_shared<std::set<std::string>>()) {}
+Workspace::Workspace() : unsettled_(std::make_shared<std::vector<std::shared_ptr<Connection>>>()) {}
 
 Workspace::~Workspace() = default;
 
+/// A change that waits in the log of a file which is no longer there must not be taken for one of
+/// the file that is.
 Database Workspace::OpenDatabase(const std::string& path) {
-  return Database(std::make_shared<Connection>(path, written_));
+  for (const auto& connection : *unsettled_)
+    if (connection->path() == path) connection->requireSameFile();
+  return Database(std::make_shared<Connection>(path, unsettled_));
 }
 
-/// The last connection to a file takes its log with it when it closes, synced; only a log that is
-/// still there needs another one.
+/// What fails stays unsettled: a failure that a rule has passed over comes again at the end of the
+/// action.
 void Workspace::settle() {
-  for (const auto& path : std::exchange(*written_, {}))
-    if (Connection::hasLog(path)) Connection(path, written_).checkpoint();
+  for (const auto& connection : *unsettled_) connection->requireSameFile();
+  for (; !unsettled_->empty(); unsettled_->pop_back()) unsettled_->back()->checkpoint();
 }
 
 Database::Database(std::shared_ptr<Connection> connection) : connection_(std::move(connection)) {}

@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <memory>
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,7 +25,8 @@ class Workspace {
   Workspace& operator=(const Workspace&) = delete;
 
   /// Opens shared, for reading and writing. Raises 3024 (no file), 3044 (no folder), 3051 (cannot
-  /// be opened), 3343 (no logbook database).
+  /// be opened), 3343 (no logbook database). A file that was exchanged or taken away while changes
+  /// to it wait for settle() is not opened: 3051, 3024.
   Database OpenDatabase(const std::string& path);
 
   /// Brings everything written so far into the one file and on the disk. Called when the outermost
@@ -35,14 +35,15 @@ class Workspace {
   void settle();
 
  private:
-  std::shared_ptr<std::set<std::string>> written_;
+  std::shared_ptr<std::vector<std::shared_ptr<Connection>>> unsettled_;
 };
 
 /// The columns that a pass needs, by name; none given means all of them. The ordinals stay those of
 /// the table; reading a column that is not among them raises 3265.
 using Columns = std::vector<std::string>;
 
-/// One open connection; closed by Close() or by the end of its life. Recordsets keep it alive.
+/// One open connection; closed by Close() or by the end of its life. Recordsets keep it alive, and
+/// changes that wait for settle().
 class Database {
  public:
   /// A table-type recordset: on the first row, its count exact at once, walked in stored order.
@@ -62,7 +63,8 @@ class Database {
 };
 
 /// A cursor over the rows of one table in stored order. Every operation may raise 91 (closed), 3260
-/// (locked), 3026 (disk full), 3027 (read-only).
+/// (locked), 3026 (disk full), 3027 (read-only). AddNew, Edit and Delete raise 3051 if another file
+/// has taken the place of the one that is open, and 3024 if none has: neither is written then.
 class Recordset {
  public:
   Recordset(Recordset&&) noexcept;

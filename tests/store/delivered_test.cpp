@@ -43,7 +43,6 @@ TEST_F(DeliveredTest, OrdinalsAndNamesHitTheSameColumn) {
 
 TEST_F(DeliveredTest, LeavesWhatIsThereAloneAndNothingElseBehind) {
   addDives(1, 1);
-  workspace.settle();
   EXPECT_FALSE(createDeliveredLogbook(path));
   EXPECT_EQ(numbers(), "1");
   EXPECT_EQ(failureOf([&] { createDeliveredLogbook(home.file("no/where")); }), PathNotValid);

@@ -58,12 +58,12 @@ class StoreTest : public testing::Test {
   std::string otherProgram(const std::string& sql) { return OtherProgram(path).run(sql); }
 
   void addDives(int first, int last) {
-    auto dives = table();
-    for (int number = first; number <= last; ++number) {
+    for (auto dives = table(); first <= last; ++first) {
       dives.AddNew();
-      dives.setField("Nr", number);
+      dives.setField("Nr", first);
       dives.Update();
     }
+    workspace.settle();
   }
   static std::string number(const Recordset& dives) { return dives.Fields(Feld::Nr).joined({}); }
   std::string numbers() { return otherProgram("SELECT Nr FROM Logbuch ORDER BY rowid"); }
