@@ -6,12 +6,14 @@
 namespace nautrel {
 namespace {
 
-constexpr std::array<std::pair<int, const char*>, 27> kTexts{{
+constexpr std::array<std::pair<int, const char*>, 29> kTexts{{
     {InvalidCall, "Invalid procedure call or argument"},
     {Overflow, "Overflow"},
+    {OutOfMemory, "Out of memory"},
     {SubscriptOutOfRange, "Subscript out of range"},
     {DivisionByZero, "Division by zero"},
     {TypeMismatch, "Type mismatch"},
+    {InternalError, "Internal error"},
     {FileNotFound, "File not found"},
     {FileAccess, "Path/File access error"},
     {PathNotFound, "Path not found"},
@@ -47,6 +49,16 @@ void raise(ErrorNumber number, const std::string& name) {
   if (const auto place = text.find("'X'"); place != std::string::npos)
     text.replace(place + 1, 1, name);
   throw RunTimeError{number, text};
+}
+
+void raiseBecause(ErrorNumber number, const std::string& reason) {
+  try {
+    raise(number);
+  } catch (RunTimeError& failure) {
+    if (failure.text.ends_with('.')) failure.text.pop_back();
+    failure.text += ": " + reason;
+    throw;
+  }
 }
 
 }  // namespace nautrel

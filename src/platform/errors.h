@@ -8,9 +8,11 @@ namespace nautrel {
 enum ErrorNumber {
   InvalidCall = 5,
   Overflow = 6,
+  OutOfMemory = 7,
   SubscriptOutOfRange = 9,
   DivisionByZero = 11,
   TypeMismatch = 13,
+  InternalError = 51,
   FileNotFound = 53,
   FileAccess = 75,
   PathNotFound = 76,
@@ -48,6 +50,9 @@ struct ProgramEnd {};
 
 /// Raises the failure with its standing text; `name` fills the place of the file, path or table.
 [[noreturn]] void raise(ErrorNumber number, const std::string& name = {});
+
+/// Raises the failure with its standing text and, behind it, what is known of the case.
+[[noreturn]] void raiseBecause(ErrorNumber number, const std::string& reason);
 
 /// Runs one statement whose failure is passed over.
 template <class Statement>

@@ -51,8 +51,13 @@ ErrorNumber failureFor(int code) {
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
       return UnrecognizedFormat;
-    default:
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
       return CannotOpenFile;
+    case SQLITE_NOMEM:
+      return OutOfMemory;
+    default:
+      return InternalError;
   }
 }
 
@@ -93,7 +98,9 @@ void Connection::open(int flags) {
 }
 
 void Connection::raiseFailure(int code) const {
-  raise(failureFor(code), path_);
+  const auto number = failureFor(code);
+  if (number == InternalError) raiseBecause(number, sqlite3_errmsg(handle()));
+  raise(number, path_);
 }
 
 /// Where the system cannot tell, the file counts as unmoved.

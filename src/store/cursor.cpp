@@ -214,7 +214,7 @@ void Cursor::insertRow() {
     bindColumn(insert_, ordinal + 1, ordinal, value != nullptr ? *value : blank(ordinal));
   }
   insert_.run();
-  connection_->rowsWritten();
+  if (connection_->rowsWritten() == 0) raiseBecause(InternalError, "the row was not stored");
   added(sqlite3_last_insert_rowid(connection_->handle()));
 }
 
@@ -225,10 +225,7 @@ void Cursor::updateRow() {
   for (const auto& [ordinal, value] : assigned_) bindColumn(update_, ++place, ordinal, value);
   update_.bind(++place, row_);
   update_.run();
-  if (connection_->rowsWritten() == 0) {
-    place_ = Place::Deleted;
-    raise(RecordDeleted);
-  }
+  requireChanged();
   for (auto& [ordinal, value] : assigned_)
     if (slots_[ordinal] >= 0) values_[slots_[ordinal]] = std::move(value);
 }
@@ -257,9 +254,19 @@ void Cursor::remove() {
     remove_ = Statement(*connection_, "DELETE FROM " + sqlName(table_) + " WHERE rowid = ?");
   remove_.bind(1, row_);
   remove_.run();
+  requireChanged();
   place_ = Place::Deleted;
-  if (connection_->rowsWritten() == 0) raise(RecordDeleted);
   removed();
+}
+
+/// A change that touched no row: the row is gone, or something in the file keeps the change off.
+void Cursor::requireChanged() {
+  if (connection_->rowsWritten() > 0) return;
+  Statement still(*connection_, "SELECT 1 FROM " + sqlName(table_) + " WHERE rowid = ?");
+  still.bind(1, row_);
+  if (still.step()) raiseBecause(InternalError, "the row was not changed");
+  place_ = Place::Deleted;
+  raise(RecordDeleted);
 }
 
 }  // namespace nautrel

@@ -83,6 +83,7 @@ class Cursor {
   void insertRow();
   void updateRow();
   void prepareUpdate();
+  void requireChanged();
   void bindColumn(Statement& statement, int place, int ordinal, const Value& value) const;
 
   std::vector<std::string> names_;

@@ -63,7 +63,7 @@ class Database {
 };
 
 /// A cursor over the rows of one table in stored order. Every operation may raise 91 (closed), 3260
-/// (locked), 3026 (disk full), 3027 (read-only). AddNew, Edit and Delete raise 3051 if another file
+/// (locked), 3026 (disk full), 3027 (read-only), 51 (what the engine refuses else, in its words). AddNew, Edit and Delete raise 3051 if another file
 /// has taken the place of the one that is open, and 3024 if none has: neither is written then.
 class Recordset {
  public:

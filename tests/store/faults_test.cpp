@@ -70,6 +70,45 @@ TEST_F(FaultsTest, ALockedRowKeepsWhatIsPendingForAnotherTry) {
   EXPECT_EQ(other.run("SELECT Ort FROM Logbuch"), "Dahab");
 }
 
+TEST_F(FaultsTest, AChangeThatSomethingInTheFileKeepsOffIsNotTakenForDone) {
+  struct Case {
+    const char *when, *does, *text;
+  };
+  addDives(1, 1);
+  for (const auto& [when, does, text] :
+       {Case{"INSERT", "IGNORE", "Internal error: the row was not stored"},
+        Case{"UPDATE", "IGNORE", "Internal error: the row was not changed"},
+        Case{"DELETE", "IGNORE", "Internal error: the row was not changed"},
+        Case{"INSERT", "ABORT, 'no more'", "Internal error: no more"},
+        Case{"UPDATE", "FAIL, 'as it is'", "Internal error: as it is"},
+        Case{"DELETE", "ROLLBACK, 'stay'", "Internal error: stay"}}) {
+    SCOPED_TRACE(testing::Message() << when << ' ' << does);
+    EXPECT_EQ(otherProgram(std::string("CREATE TRIGGER off BEFORE ") + when +
+                           " ON Logbuch BEGIN SELECT RAISE(" + does + "); END"),
+              "");
+    auto dives = dynaset();
+    const bool adding = std::string_view(when) == "INSERT";
+    const auto change = [&] { *when == 'D' ? dives.Delete() : dives.Update(); };
+    if (*when != 'D') {
+      adding ? dives.AddNew() : dives.Edit();
+      dives.setField("Nr", "2");
+    }
+    try {
+      change();
+      FAIL() << "it is done";
+    } catch (const RunTimeError& failure) {
+      EXPECT_EQ(failure.number, InternalError);
+      EXPECT_EQ(failure.text, text);
+    }
+    EXPECT_EQ(numbers(), "1");
+    otherProgram("DROP TRIGGER off");
+    change();
+    EXPECT_EQ(numbers(), adding ? "1,2" : *when == 'D' ? "" : "2");
+    otherProgram("DELETE FROM Logbuch");
+    addDives(1, 1);
+  }
+}
+
 TEST_F(FaultsTest, WhatIsSettledStandsInTheOneFile) {
   addDives(1, 2);
   auto window = dynaset();
