@@ -93,6 +93,8 @@ void Connection::open(int flags) {
   handle_.reset(opened);
   if (code != SQLITE_OK) raiseFailure(code);
   sqlite3_busy_timeout(opened, kWaitForOthers);
+  // A column that is gone would else be read as a text that holds its name.
+  sqlite3_db_config(opened, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   // Reads the file for the first time, and so finds out whether it is a database.
   Statement(*this, "PRAGMA synchronous = NORMAL").run();
 }
@@ -201,12 +203,6 @@ void Statement::reset() {
 
 std::string Statement::columnName(int column) const {
   return sqlite3_column_name(handle_.get(), column);
-}
-
-Kind Statement::columnKind(int column) const {
-  const char* declared = sqlite3_column_decltype(handle_.get(), column);
-  const bool flag = declared != nullptr && sqlite3_stricmp(declared, "BOOLEAN") == 0;
-  return flag ? Kind::Flag : Kind::Text;
 }
 
 Value Statement::value(int column, Kind kind) const {

@@ -84,8 +84,6 @@ class Statement {
 
   int columnCount() const { return sqlite3_column_count(handle_.get()); }
   std::string columnName(int column) const;
-  /// As declared in the table.
-  Kind columnKind(int column) const;
 
   std::int64_t integer(int column) const { return sqlite3_column_int64(handle_.get(), column); }
   Value value(int column, Kind kind) const;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/errors.h"
+#include "platform/text.h"
 
 namespace nautrel {
 namespace {
@@ -21,13 +22,18 @@ Cursor::Cursor(std::shared_ptr<Connection> connection, std::string_view table,
                const std::vector<std::string>& columns)
     : connection_(std::move(connection)), table_(table) {
   requireTable();
-  prepareWalk("*");
   readShape();
-  if (!columns.empty()) narrowWalk(columns);
+  chooseColumns(columns);
+  prepareWalk();
   values_.resize(ordinals_.size());
 }
 
-void Cursor::requireTable() const {
+void Cursor::requireTable() {
+  const auto tables = logbookTables();
+  const auto ours = std::find_if(tables.begin(), tables.end(),
+                                 [&](const Table& table) { return table.name == table_; });
+  if (ours == tables.end()) raise(TableNotFound, table_);
+  contract_ = ours->columns;
   const int code =
       sqlite3_table_column_metadata(connection_->handle(), "main", table_.c_str(), nullptr, nullptr,
                                     nullptr, nullptr, nullptr, nullptr);
@@ -35,31 +41,36 @@ void Cursor::requireTable() const {
   if (code != SQLITE_OK) connection_->raiseFailure(code);
 }
 
-void Cursor::prepareWalk(const std::string& columns) {
-  walk_ = Statement(*connection_, "SELECT rowid, " + columns + " FROM " + sqlName(table_) +
-                                      " WHERE rowid >= ?1 ORDER BY rowid");
-}
-
+/// Holds the columns against the contract. What comes behind them is another tool's own.
 void Cursor::readShape() {
-  for (int column = 1; column < walk_.columnCount(); ++column) {
-    names_.push_back(walk_.columnName(column));
-    kinds_.push_back(walk_.columnKind(column));
-    ordinals_.push_back(column - 1);
+  const Statement shape(*connection_, "SELECT * FROM " + sqlName(table_));
+  const auto there = static_cast<std::size_t>(shape.columnCount());
+  for (std::size_t ordinal = 0; ordinal < contract_.size(); ++ordinal) {
+    const auto name = contract_[ordinal].name;
+    const auto found = ordinal < there ? shape.columnName(static_cast<int>(ordinal)) : "";
+    if (found != name && lowerCase(found) != lowerCase(name))
+      raiseBecause(ItemNotFound, "'" + std::string(name) + "'");
+    sqlNames_.push_back(sqlName(found));
   }
-  slots_ = ordinals_;
 }
 
-void Cursor::narrowWalk(const std::vector<std::string>& columns) {
-  ordinals_.clear();
-  slots_.assign(names_.size(), -1);
-  std::string list;
-  for (const auto& name : columns) {
-    const int ordinal = ordinalOf(name);
-    slots_[ordinal] = static_cast<int>(ordinals_.size());
-    ordinals_.push_back(ordinal);
-    list += (list.empty() ? "" : ", ") + sqlName(name);
-  }
-  prepareWalk(list);
+void Cursor::chooseColumns(const std::vector<std::string>& columns) {
+  slots_.assign(contract_.size(), -1);
+  for (const auto& name : columns) ordinals_.push_back(ordinalOf(name));
+  if (columns.empty())
+    for (std::size_t all = 0; all < contract_.size(); ++all)
+      ordinals_.push_back(static_cast<int>(all));
+  for (std::size_t slot = 0; slot < ordinals_.size(); ++slot)
+    slots_[ordinals_[slot]] = static_cast<int>(slot);
+}
+
+/// By name: if another tool changes the table while it is open, no column slips into the place of
+/// another.
+void Cursor::prepareWalk() {
+  std::string sql = "SELECT rowid";
+  for (const int ordinal : ordinals_) sql += ", " + sqlNames_[ordinal];
+  walk_ = Statement(*connection_,
+                    sql + " FROM " + sqlName(table_) + " WHERE rowid >= ?1 ORDER BY rowid");
 }
 
 bool Cursor::seek(std::int64_t from) {
@@ -97,19 +108,20 @@ void Cursor::fetch(std::int64_t row) {
 void Cursor::release() {
   if (!live_) return;
   for (std::size_t slot = 0; slot < values_.size(); ++slot)
-    values_[slot] = walk_.value(static_cast<int>(slot) + 1, kinds_[ordinals_[slot]]);
+    values_[slot] = walk_.value(static_cast<int>(slot) + 1, contract_[ordinals_[slot]].kind);
   walk_.reset();
   live_ = false;
 }
 
 int Cursor::ordinalOf(std::string_view name) const {
-  const auto found = std::find(names_.begin(), names_.end(), name);
-  if (found == names_.end()) raise(ItemNotFound);
-  return static_cast<int>(found - names_.begin());
+  const auto found = std::find_if(contract_.begin(), contract_.end(),
+                                  [&](const Column& column) { return column.name == name; });
+  if (found == contract_.end()) raise(ItemNotFound);
+  return static_cast<int>(found - contract_.begin());
 }
 
 void Cursor::requireColumn(int ordinal) const {
-  if (ordinal < 0 || ordinal >= static_cast<int>(names_.size())) raise(ItemNotFound);
+  if (ordinal < 0 || ordinal >= static_cast<int>(contract_.size())) raise(ItemNotFound);
 }
 
 void Cursor::requireRow() const {
@@ -124,7 +136,7 @@ const Value* Cursor::assigned(int ordinal) const {
 }
 
 Value Cursor::blank(int ordinal) const {
-  return kinds_[ordinal] == Kind::Flag ? Value(false) : Value::null();
+  return contract_[ordinal].kind == Kind::Flag ? Value(false) : Value::null();
 }
 
 Value Cursor::field(int ordinal) const {
@@ -136,13 +148,13 @@ Value Cursor::field(int ordinal) const {
   requireRow();
   const int slot = slots_[ordinal];
   if (slot < 0) raise(ItemNotFound);
-  return live_ ? walk_.value(slot + 1, kinds_[ordinal]) : values_[slot];
+  return live_ ? walk_.value(slot + 1, contract_[ordinal].kind) : values_[slot];
 }
 
 void Cursor::appendField(std::string& text, int ordinal) const {
   requireColumn(ordinal);
   const int slot = slots_[ordinal];
-  if (live_ && pending_ == Pending::None && slot >= 0 && kinds_[ordinal] == Kind::Text)
+  if (live_ && pending_ == Pending::None && slot >= 0 && contract_[ordinal].kind == Kind::Text)
     text += walk_.text(slot + 1);
   else
     text += field(ordinal).joined({});
@@ -151,7 +163,7 @@ void Cursor::appendField(std::string& text, int ordinal) const {
 void Cursor::assign(int ordinal, const Value& value) {
   requireColumn(ordinal);
   if (pending_ == Pending::None) raise(NoEditPending);
-  Value taken = stored(value, kinds_[ordinal]);
+  Value taken = stored(value, contract_[ordinal].kind);
   for (auto& [column, earlier] : assigned_) {
     if (column != ordinal) continue;
     earlier = std::move(taken);
@@ -191,7 +203,7 @@ void Cursor::update() {
 void Cursor::bindColumn(Statement& statement, int place, int ordinal, const Value& value) const {
   if (value.isNull())
     statement.bindNull(place);
-  else if (kinds_[ordinal] == Kind::Flag)
+  else if (contract_[ordinal].kind == Kind::Flag)
     statement.bind(place, value.isYes() ? 1 : 0);
   else
     statement.bindText(place, value.joined({}));
@@ -201,14 +213,14 @@ void Cursor::insertRow() {
   if (!insert_) {
     std::string columns;
     std::string places;
-    for (const auto& name : names_) {
-      columns += (columns.empty() ? "" : ", ") + sqlName(name);
+    for (const auto& name : sqlNames_) {
+      columns += (columns.empty() ? "" : ", ") + name;
       places += places.empty() ? "?" : ", ?";
     }
     insert_ = Statement(*connection_, "INSERT INTO " + sqlName(table_) + " (" + columns +
                                           ") VALUES (" + places + ")");
   }
-  const int columns = static_cast<int>(names_.size());
+  const int columns = static_cast<int>(contract_.size());
   for (int ordinal = 0; ordinal < columns; ++ordinal) {
     const Value* value = assigned(ordinal);
     bindColumn(insert_, ordinal + 1, ordinal, value != nullptr ? *value : blank(ordinal));
@@ -239,7 +251,7 @@ void Cursor::prepareUpdate() {
   std::string columns;
   for (const auto& [ordinal, value] : assigned_) {
     updates_.push_back(ordinal);
-    columns += (columns.empty() ? "" : ", ") + sqlName(names_[ordinal]) + " = ?";
+    columns += (columns.empty() ? "" : ", ") + sqlNames_[ordinal] + " = ?";
   }
   update_ =
       Statement(*connection_, "UPDATE " + sqlName(table_) + " SET " + columns + " WHERE rowid = ?");

@@ -2,12 +2,14 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "store/connection.h"
+#include "store/contract.h"
 
 namespace nautrel {
 
@@ -29,7 +31,7 @@ class Cursor {
   virtual void move(int rows) = 0;
   bool atEnd() const { return place_ == Place::End; }
 
-  const std::vector<std::string>& names() const { return names_; }
+  std::span<const Column> columns() const { return contract_; }
   /// Raises 3265.
   int ordinalOf(std::string_view name) const;
   Value field(int ordinal) const;
@@ -72,10 +74,10 @@ class Cursor {
   enum class Pending { None, AddNew, Edit };
   using Assigned = std::vector<std::pair<int, Value>>;
 
-  void requireTable() const;
-  void prepareWalk(const std::string& columns);
+  void requireTable();
   void readShape();
-  void narrowWalk(const std::vector<std::string>& columns);
+  void chooseColumns(const std::vector<std::string>& columns);
+  void prepareWalk();
   void requireColumn(int ordinal) const;
   void requireRow() const;
   const Value* assigned(int ordinal) const;
@@ -86,10 +88,10 @@ class Cursor {
   void requireChanged();
   void bindColumn(Statement& statement, int place, int ordinal, const Value& value) const;
 
-  std::vector<std::string> names_;
-  std::vector<Kind> kinds_;
-  std::vector<int> slots_;     // by ordinal: the place in the walk, or -1
-  std::vector<int> ordinals_;  // by place in the walk
+  std::span<const Column> contract_;
+  std::vector<std::string> sqlNames_;  // by ordinal
+  std::vector<int> slots_;             // by ordinal: the place in the walk, or -1
+  std::vector<int> ordinals_;          // by place in the walk
 
   Statement walk_;
   bool live_ = false;

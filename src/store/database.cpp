@@ -137,13 +137,12 @@ void Recordset::Close() {
 }
 
 int Recordset::FieldCount() const {
-  return static_cast<int>(cursor().names().size());
+  return static_cast<int>(cursor().columns().size());
 }
 
-const std::string& Recordset::FieldName(int ordinal) const {
-  const auto& names = cursor().names();
+std::string Recordset::FieldName(int ordinal) const {
   if (ordinal < 0 || ordinal >= FieldCount()) raise(ItemNotFound);
-  return names[static_cast<std::size_t>(ordinal)];
+  return std::string(cursor().columns()[static_cast<std::size_t>(ordinal)].name);
 }
 
 }  // namespace nautrel

@@ -47,11 +47,12 @@ using Columns = std::vector<std::string>;
 class Database {
  public:
   /// A table-type recordset: on the first row, its count exact at once, walked in stored order.
-  /// Raises 3078 for a table that is not there, 3265 for a column.
+  /// Raises 3078 for a table that is not there, 3265 for a column that is not there or, of the
+  /// table's own, not in its place; that one's name is in the text.
   Recordset OpenRecordset(std::string_view table, const Columns& columns = {});
 
   /// A dynaset: the set of rows is fixed now, each row's values are fetched when the cursor comes
-  /// to it.
+  /// to it. Raises what OpenRecordset raises.
   Recordset OpenDynaset(std::string_view table);
 
   void Close();
@@ -63,8 +64,9 @@ class Database {
 };
 
 /// A cursor over the rows of one table in stored order. Every operation may raise 91 (closed), 3260
-/// (locked), 3026 (disk full), 3027 (read-only), 51 (what the engine refuses else, in its words). AddNew, Edit and Delete raise 3051 if another file
-/// has taken the place of the one that is open, and 3024 if none has: neither is written then.
+/// (locked), 3026 (disk full), 3027 (read-only), 51 (what the engine refuses else, in its words).
+/// AddNew, Edit and Delete raise 3051 if another file has taken the place of the one that is open,
+/// and 3024 if none has: neither is written then.
 class Recordset {
  public:
   Recordset(Recordset&&) noexcept;
@@ -114,7 +116,7 @@ class Recordset {
   void Close();
 
   int FieldCount() const;
-  const std::string& FieldName(int ordinal) const;
+  std::string FieldName(int ordinal) const;
 
   /// Called after every move that ended on a row.
   std::function<void()> moved;

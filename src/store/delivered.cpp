@@ -13,6 +13,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// For tools that look at files; a logbook without it is as good.
+constexpr int kApplicationId = 0x4E617574;  // "Naut"
+
 /// A file of its own beside the target, gone at the end whatever happens.
 class DraftFile {
  public:
@@ -58,6 +61,8 @@ void fill(const Connection& draft) {
   }
   // The dives are counted again and again: through a narrow index that costs a tenth of the walk.
   Statement(draft, "CREATE INDEX \"Zählung\" ON \"Logbuch\" (\"Rep\")").run();
+  Statement(draft, "PRAGMA application_id = " + std::to_string(kApplicationId)).run();
+  Statement(draft, "PRAGMA user_version = 1").run();
   Statement(draft, "COMMIT").run();
 }
 

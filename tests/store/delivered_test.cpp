@@ -26,6 +26,8 @@ TEST_F(DeliveredTest, HoldsTheFourTablesAndTheirRows) {
     for (int column = 0; item.rows > 0 && column < item.columns; ++column)
       EXPECT_EQ(rows.Fields(column), Value(""));
   }
+  EXPECT_NE(otherProgram("PRAGMA application_id"), "0");
+  EXPECT_EQ(otherProgram("PRAGMA user_version"), "1");
 }
 
 TEST_F(DeliveredTest, OrdinalsAndNamesHitTheSameColumn) {

@@ -1,3 +1,5 @@
+#include <functional>
+
 #include "store/store_test.h"
 
 namespace nautrel {
@@ -40,7 +42,7 @@ TEST_F(FaultsTest, AFileThatIsNoLogbookStaysAsItIs) {
   }
 }
 
-TEST_F(FaultsTest, ATableOrAColumnThatIsMissingFailsWhereItIsRead) {
+TEST_F(FaultsTest, ATableThatIsMissingIsNamed) {
   otherProgram("DROP TABLE Statistik");
   try {
     table(Tabelle::Statistik);
@@ -49,12 +51,69 @@ TEST_F(FaultsTest, ATableOrAColumnThatIsMissingFailsWhereItIsRead) {
     EXPECT_EQ(failure.text,
               "The database engine cannot find the input table or query 'Statistik'.");
   }
-  otherProgram("ALTER TABLE Logbuch DROP COLUMN Grafik");
+}
+
+TEST_F(FaultsTest, AColumnThatIsNotInItsPlaceIsNamedAndNothingIsWritten) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"ALTER TABLE Logbuch DROP COLUMN Grafik", "Grafik"},
+      {"ALTER TABLE Logbuch RENAME COLUMN Ort TO Stadt", "Ort"},
+      {"CREATE TABLE Neu AS SELECT Land, Nr, * FROM Logbuch; DROP TABLE Logbuch; "
+       "ALTER TABLE Neu RENAME TO Logbuch",
+       "Nr"}};
   addDives(1, 1);
-  auto dives = table();
+  const auto sound = readFile(path);
+  for (const auto& [change, column] : cases) {
+    SCOPED_TRACE(change);
+    home.write(std::string(kLogbookFile), sound);
+    EXPECT_EQ(otherProgram(change), "");
+    const auto before = readFile(path);
+    const std::function<void()> openings[] = {
+        [&] { table(); }, [&] { dynaset(); },
+        [&] { workspace.OpenDatabase(path).OpenRecordset(Tabelle::Logbuch, {"Land"}); }};
+    for (const auto& open : openings) try {
+        open();
+        ADD_FAILURE() << "it opens";
+      } catch (const RunTimeError& failure) {
+        EXPECT_EQ(failure.number, ItemNotFound);
+        EXPECT_EQ(failure.text, std::string("Item not found in this collection: '") + column + "'");
+      }
+    EXPECT_TRUE(readFile(path) == before);
+    EXPECT_EQ(table(Tabelle::Benutzer).RecordCount(), 1);
+  }
+}
+
+TEST_F(FaultsTest, MoreColumnsOtherCasesAndOtherTypesAreReadAsIfTheyWereOurs) {
+  otherProgram(
+      "ALTER TABLE Logbuch RENAME COLUMN Höhe TO HÖHE; ALTER TABLE Logbuch RENAME COLUMN Nr TO nr;"
+      "ALTER TABLE Logbuch ADD COLUMN Temperatur NOT NULL DEFAULT 4; CREATE TABLE More (a);"
+      "PRAGMA application_id = 0; PRAGMA user_version = 0; PRAGMA writable_schema = ON;"
+      "UPDATE sqlite_schema SET sql = replace(replace(replace(sql, 'BOOLEAN', 'NUMBER'),"
+      "'\"Land\" TEXT', '\"Land\" BOOLEAN'), '\"Boot\" NUMBER', '\"Boot\"')");
+  for (const bool fixed : {false, true}) {
+    auto dives = fixed ? dynaset() : table();
+    dives.AddNew();
+    dives.setField("Land", "Egypt");
+    dives.setField("Höhe", "12");
+    dives.setField("Boot", true);
+    dives.Update();
+    dives.MoveLast();
+    EXPECT_EQ(dives.FieldCount(), 30);
+    EXPECT_EQ(dives.FieldName(Feld::Höhe), "Höhe");
+    EXPECT_EQ(dives.Fields(Feld::Land), Value("Egypt"));
+    EXPECT_EQ(dives.Fields(Feld::Höhe), Value("12"));
+    EXPECT_EQ(dives.Fields(Feld::Boot), Value(true));
+    EXPECT_EQ(dives.Fields(Feld::Rep), Value(false));
+  }
+  EXPECT_EQ(otherProgram("SELECT count(*) FROM Logbuch WHERE Temperatur = 4"), "2");
+  EXPECT_EQ(failureOf([&] { table("More"); }), TableNotFound);
+}
+
+TEST_F(FaultsTest, AColumnThatGoesUnderAnOpenWindowShiftsNoOther) {
+  addDives(1, 2);
+  auto dives = dynaset();
+  otherProgram("ALTER TABLE Logbuch DROP COLUMN Land");
+  EXPECT_EQ(failureOf([&] { dives.MoveNext(); }), InternalError);
   EXPECT_EQ(number(dives), "1");
-  EXPECT_EQ(failureOf([&] { dives.Fields(Feld::Grafik); }), ItemNotFound);
-  EXPECT_EQ(failureOf([&] { dives.Fields("Grafik"); }), ItemNotFound);
 }
 
 TEST_F(FaultsTest, ALockedRowKeepsWhatIsPendingForAnotherTry) {
