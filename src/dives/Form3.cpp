@@ -143,8 +143,8 @@ void Form3::Command1_Click() {
     auto& rows = Data1.Recordset();
     if (isLastDive(app_, answer))
       rows.MoveLast();
-    else
-      jumpToDive(app_, rows, answer);
+    else if (const auto dive = diveInRange(app_, answer))
+      moveToDive(*this, *dive);
     selectByCount();
   } catch (const RunTimeError&) {
   }
@@ -158,6 +158,10 @@ void Form3::selectByCount() {
 
 void Form3::Command3_Click() {
   Unload();
+}
+
+double Form3::currentNumber() {
+  return Data1.Recordset().Fields(Feld::Nr).number(locale());
 }
 
 void Form3::Form_Unload() {

@@ -11,7 +11,7 @@ class Nautrel;
 /// "View Logbook": one dive at a time, read-only, with the list of all numbers beside it.
 ///
 /// Another window shows a dive here from outside: Show(), then ListeNachziehen := true, then
-/// Data1.Recordset().Move(target - Fields(0)).
+/// Data1.Recordset().Move(target - currentNumber()).
 class Form3 : public Form {
  public:
   using App = Nautrel;
@@ -25,6 +25,8 @@ class Form3 : public Form {
   void Command1_Click();
   void Command3_Click();
   void Leeren();
+  /// The number from which a jump counts: that of the current row. Raises 94 or 13 if it has none.
+  double currentNumber();
 
   TabStrip SSTab1{*this, "SSTab1", {"General", "Comments", "Several Info", "Linked graphic"}};
   TextBox Text1{*this, "Text1", {.locked = true}};

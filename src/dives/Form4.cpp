@@ -157,10 +157,14 @@ void Form4::Command4_Click() {
   try {
     auto& dives = Data1.Recordset();
     if (isLastDive(app_, answer)) return dives.MoveLast();
-    jumpToDive(app_, dives, answer);
+    if (const auto dive = diveInRange(app_, answer)) moveToDive(*this, *dive);
     Text2.SetFocus();
   } catch (const RunTimeError&) {
   }
+}
+
+double Form4::currentNumber() {
+  return Data1.Recordset().Fields(Feld::Nr).number(locale());
 }
 
 void Form4::Form_Unload() {

@@ -9,7 +9,7 @@ namespace nautrel {
 /// that is not saved is lost at the next move, without a question.
 ///
 /// Another window opens it on a dive from outside: Show(), then Data1.Recordset().Move(target -
-/// Fields(0)).
+/// currentNumber()).
 class Form4 : public DiveEntryForm {
  public:
   using App = Nautrel;
@@ -23,6 +23,8 @@ class Form4 : public DiveEntryForm {
   void Command3_Click();
   void Command4_Click();
   void Leeren();
+  /// The number from which a jump counts: that of the current row. Raises 94 or 13 if it has none.
+  double currentNumber();
   /// Writes the boxes and every flag, on or off, to the current row; never its number.
   void Speichern();
 

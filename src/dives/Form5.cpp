@@ -188,7 +188,7 @@ void Form5::Command2_Click() {
   try {
     auto& dives = Data1.Recordset();
     if (isLastDive(app_, answer)) dives.MoveLast();
-    jumpToDive(app_, dives, answer);
+    if (const auto dive = diveInRange(app_, answer)) moveToDive(*this, *dive);
   } catch (const RunTimeError&) {
   }
 }
@@ -209,6 +209,11 @@ void Form5::Command3_Click() {
 }
 void Form5::Command5_Click() {
   Unload();
+}
+
+// The rows still hold the numbers of before the last renumbering.
+double Form5::currentNumber() {
+  return Data1.Recordset().FieldAfresh(Feld::Nr).number(locale());
 }
 
 // With the last dive the word search goes too; the other two searches come back.

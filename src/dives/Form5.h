@@ -13,7 +13,7 @@ class Nautrel;
 /// "Delete dive": removes one dive or a range of them, and gives the others new numbers from 1 on.
 ///
 /// Another window opens it on a dive from outside: Show(), then Data1.Recordset().Move(target -
-/// Fields(0)).
+/// currentNumber()).
 class Form5 : public Form {
  public:
   using App = Nautrel;
@@ -31,6 +31,9 @@ class Form5 : public Form {
   void Command4_Click();
   void Command5_Click();
   void Leeren();
+  /// The number from which a jump counts: that of the current row as it is stored now, which boxes
+  /// and question show from the next move on. Raises 94 or 13 if it has none.
+  double currentNumber();
   /// Gives all dives new numbers from 1 on, in stored order. Data1 sees them at its next move.
   void Nummerieren();
   /// Tests the range in Text6 and Text7; every failure shows its message. Text9 is empty

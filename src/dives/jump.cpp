@@ -1,9 +1,7 @@
 #include "dives/jump.h"
 
-#include "platform/text.h"
 #include "shell/Modul1.h"
 #include "shell/Nautrel.h"
-#include "store/contract.h"
 
 namespace nautrel {
 
@@ -22,13 +20,13 @@ bool isLastDive(Nautrel& app, const std::string& answer) {
   return !last.isNull() && answer == last.joined(app.desktop().locale());
 }
 
-void jumpToDive(Nautrel& app, Recordset& dives, const std::string& answer) {
+std::optional<double> diveInRange(Nautrel& app, const std::string& answer) {
   const auto& shared = app.Modul1();
   const auto& locale = app.desktop().locale();
-  const double target = readNumber(answer, locale);
-  if (target > shared.LetzteNummer.number(locale) || target < shared.ErsteNummer.number(locale))
-    return;
-  dives.Move(toInt32(target - dives.Fields(Feld::Nr).number(locale)));
+  const double dive = readNumber(answer, locale);
+  if (dive > shared.LetzteNummer.number(locale) || dive < shared.ErsteNummer.number(locale))
+    return {};
+  return dive;
 }
 
 }  // namespace nautrel

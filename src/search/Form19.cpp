@@ -3,9 +3,9 @@
 #include "dives/Form3.h"
 #include "dives/Form4.h"
 #include "dives/Form5.h"
+#include "dives/jump.h"
 #include "shell/Modul1.h"
 #include "shell/Nautrel.h"
-#include "store/contract.h"
 
 namespace nautrel {
 
@@ -24,24 +24,26 @@ void Form19::List1_Click() {
   if (Text1.text() == "löschen") Löschen();
 }
 
+template <class RecordForm>
+void Form19::jump(RecordForm& record) {
+  if (List1.text() == app_.Modul1().LetzteNummer.joined(locale()))
+    return record.Data1.Recordset().MoveLast();
+  moveToDive(record, number(List1.text()));
+}
+
 void Form19::Anzeigen() {
   app_.Modul1().ListeNachziehen = true;
-  jump(app_.Form3().Data1.Recordset());
+  jump(app_.Form3());
 }
 
 // The rules of the row on show take the focus to the window of the dive.
 void Form19::Bearbeiten() {
-  jump(app_.Form4().Data1.Recordset());
+  jump(app_.Form4());
   SetFocus();
 }
 
 void Form19::Löschen() {
-  jump(app_.Form5().Data1.Recordset());
-}
-
-void Form19::jump(Recordset& rows) {
-  if (List1.text() == app_.Modul1().LetzteNummer.joined(locale())) return rows.MoveLast();
-  rows.Move(toInt32(number(List1.text()) - rows.Fields(Feld::Nr).number(locale())));
+  jump(app_.Form5());
 }
 
 }  // namespace nautrel

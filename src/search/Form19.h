@@ -29,7 +29,8 @@ class Form19 : public Form {
   TextBox Text1{*this, "Text1", {.visible = false}};
 
  private:
-  void jump(Recordset& rows);
+  template <class RecordForm>
+  void jump(RecordForm& record);
 
   Nautrel& app_;
 };

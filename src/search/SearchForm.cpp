@@ -167,7 +167,7 @@ void SearchForm::openIn(RecordForm& (Nautrel::*window)(), const char* mode, bool
   record.Command3.setCaption("&Back");
   const double target = number(List1.text());
   auto& rows = record.Data1.Recordset();
-  const int difference = toInt32(target - rows.Fields(Feld::Nr).number(locale()));
+  const int difference = toInt32(target - record.currentNumber());
   if (listFollows) app_.Modul1().ListeNachziehen = true;
   rows.Move(difference);
   showFoundDives(record, mode);

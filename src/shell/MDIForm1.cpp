@@ -284,7 +284,7 @@ void MDIForm1::showRecordDive(int window) {
   resumeNext(
       [&] { target = number(app_.Form6().recordButton(app_.Modul1().StatistikKnopf).caption()); });
   double distance = 0;
-  resumeNext([&] { distance = target - recordsOf(window).Fields(Feld::Nr).number(locale()); });
+  resumeNext([&] { distance = target - currentNumberOf(window); });
   if (window == 3) app_.Modul1().ListeNachziehen = true;
   resumeNext([&] { recordsOf(window).Move(toInt32(distance)); });
 }
@@ -293,6 +293,12 @@ Recordset& MDIForm1::recordsOf(int window) {
   if (window == 3) return app_.Form3().Data1.Recordset();
   if (window == 4) return app_.Form4().Data1.Recordset();
   return app_.Form5().Data1.Recordset();
+}
+
+double MDIForm1::currentNumberOf(int window) {
+  if (window == 3) return app_.Form3().currentNumber();
+  if (window == 4) return app_.Form4().currentNumber();
+  return app_.Form5().currentNumber();
 }
 
 void MDIForm1::gateCommands(bool enabled) {

@@ -126,6 +126,7 @@ class MDIForm1 : public Form {
   /// Shows the record dive whose number button the statistic's user pressed last.
   void showRecordDive(int window);
   Recordset& recordsOf(int window);
+  double currentNumberOf(int window);
 
   Nautrel& app_;
   long backColor_ = kStandardColor;

@@ -160,6 +160,16 @@ void Cursor::appendField(std::string& text, int ordinal) const {
     text += field(ordinal).joined({});
 }
 
+Value Cursor::fieldAfresh(int ordinal) const {
+  requireColumn(ordinal);
+  requireRow();
+  Statement now(*connection_,
+                "SELECT " + sqlNames_[ordinal] + " FROM " + sqlName(table_) + " WHERE rowid = ?");
+  now.bind(1, row_);
+  if (!now.step()) raise(RecordDeleted);
+  return now.value(0, contract_[ordinal].kind);
+}
+
 void Cursor::assign(int ordinal, const Value& value) {
   requireColumn(ordinal);
   if (pending_ == Pending::None) raise(NoEditPending);

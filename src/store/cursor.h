@@ -36,6 +36,7 @@ class Cursor {
   int ordinalOf(std::string_view name) const;
   Value field(int ordinal) const;
   void appendField(std::string& text, int ordinal) const;
+  Value fieldAfresh(int ordinal) const;
 
   void assign(int ordinal, const Value& value);
   void addNew();

@@ -108,6 +108,10 @@ void Recordset::appendField(std::string& text, int ordinal) const {
   cursor().appendField(text, ordinal);
 }
 
+Value Recordset::FieldAfresh(int ordinal) const {
+  return cursor().fieldAfresh(ordinal);
+}
+
 void Recordset::setField(int ordinal, const Value& value) {
   cursor().assign(ordinal, value);
 }

@@ -97,6 +97,9 @@ class Recordset {
   /// Adds a column's text to the end of `text`, Null as nothing: for passes that join whole rows.
   /// Raises what Fields raises.
   void appendField(std::string& text, int ordinal) const;
+  /// A column of the current row as it is stored now, without a move: Fields keeps what it gave.
+  /// Raises what Fields raises.
+  Value FieldAfresh(int ordinal) const;
 
   /// Assigns a column of the row begun by AddNew or Edit. A number is stored as its general text
   /// with a decimal point. Raises 3020 without AddNew or Edit, 3265. A flag takes flags and

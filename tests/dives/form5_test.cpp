@@ -79,9 +79,9 @@ TEST_F(DeleteDive, NoDeletesNothing) {
   EXPECT_EQ(column("Nr"), (Texts{"1", "2", "3"}));
 }
 
-// The window still holds the number that its row had before the others moved up, so that a jump
-// counts from there and the question names it.
-TEST_F(DeleteDive, AfterADeletionTheRowOnShowCountsWithItsNumberOfBefore) {
+// The window still holds the number that its row had before the others moved up, and the question
+// names it; a jump counts from the new one.
+TEST_F(DeleteDive, AfterADeletionTheRowOnShowKeepsItsNumberAndAJumpFindsItsDive) {
   addDives(1, 7);
   auto& form = open();
   goTo(form, 2);
@@ -98,10 +98,6 @@ TEST_F(DeleteDive, AfterADeletionTheRowOnShowCountsWithItsNumberOfBefore) {
   click(form.Command2);
   EXPECT_EQ(desktop->inputPrompts.back(),
             "Jump to dive-#: Please enter a dive number between 1 and 6!");
-  EXPECT_EQ(form.Text1.text(), "2");
-
-  desktop->answerInput("3");
-  click(form.Command2);
   EXPECT_EQ(form.Text1.text(), "3");
   EXPECT_EQ(form.Text3.text(), "Ort 4");
 }

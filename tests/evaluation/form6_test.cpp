@@ -275,6 +275,12 @@ TEST_F(Statistic, ItsDiveIsEditedOrDeletedInAWindowOfItsOwn) {
   click(form.Command4);
   EXPECT_FALSE(app->loaded(4));
   EXPECT_EQ(app->Form5().Data1.Recordset().Fields("Nr"), Value("8"));
+  desktop->answer(kYes);
+  click(app->Form5().Command1);
+  form.Command4.setCaption("2");
+  desktop->answerMenu("Menü8c");
+  click(form.Command4);
+  EXPECT_EQ(app->Form5().Text1.text(), "2") << "counted from the row's new number";
   desktop->answerMenu("Menü8a");
   click(form.Command4);
   EXPECT_FALSE(app->loaded(5));
