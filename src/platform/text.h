@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace nautrel {
 
@@ -13,10 +14,16 @@ namespace nautrel {
 struct Locale {
   std::string decimal = ".";
   std::string grouping = ",";
-  /// Date and time forms in the letters d, dd, M, MM, yy, yyyy, H, HH, h, hh, mm, ss, AP; other
-  /// characters stand for themselves, and so does everything between single quotes.
+  /// Date and time forms in the letters d, dd, ddd, dddd, M, MM, MMM, MMMM, yy, yyyy, H, HH, h, hh,
+  /// mm, ss, AP; other characters stand for themselves, and so does everything between single
+  /// quotes.
   std::string shortDate = "M/d/yyyy";
   std::string longTime = "h:mm:ss AP";
+  /// Short and in full, from January and from Sunday on; what is not there is written as a number.
+  std::vector<std::string> shortMonths = {};
+  std::vector<std::string> months = {};
+  std::vector<std::string> shortDays = {};
+  std::vector<std::string> days = {};
 };
 
 /// A moment of the local calendar and clock.

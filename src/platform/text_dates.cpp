@@ -1,6 +1,7 @@
 #include "platform/text.h"
 
 #include <algorithm>
+#include <chrono>
 #include <string>
 
 namespace nautrel {
@@ -27,15 +28,32 @@ int hourOnDial(int hour) {
   return hour % 12 == 0 ? 12 : hour % 12;
 }
 
+int dayOfWeek(const DateTime& moment) {
+  const std::chrono::year_month_day date{std::chrono::year(moment.year),
+                                         std::chrono::month(static_cast<unsigned>(moment.month)),
+                                         std::chrono::day(static_cast<unsigned>(moment.day))};
+  return static_cast<int>(std::chrono::weekday(std::chrono::sys_days(date)).c_encoding());
+}
+
+/// Three letters or more are a name, its index counted from 0; fewer are the number.
+std::string nameOr(int number, std::size_t length, int index, const std::vector<std::string>& brief,
+                   const std::vector<std::string>& full) {
+  const auto& names = length == 3 ? brief : full;
+  const auto at = static_cast<std::size_t>(index);
+  return length > 2 && at < names.size() ? names[at]
+                                         : padded(number, std::min<std::size_t>(length, 2));
+}
+
 // The text of a run of one letter, such as "dd"; a character that is no letter of the forms stands
 // for itself.
-std::string runText(char letter, std::size_t length, const DateTime& moment, bool dial) {
+std::string runText(char letter, std::size_t length, const DateTime& moment, const Locale& locale,
+                    bool dial) {
   const auto digits = std::min<std::size_t>(length, 2);
   switch (letter) {
     case 'd':
-      return padded(moment.day, digits);
+      return nameOr(moment.day, length, dayOfWeek(moment), locale.shortDays, locale.days);
     case 'M':
-      return padded(moment.month, digits);
+      return nameOr(moment.month, length, moment.month - 1, locale.shortMonths, locale.months);
     case 'y':
       return length > 2 ? padded(moment.year, 4) : padded(moment.year % 100, 2);
     case 'H':
@@ -51,7 +69,7 @@ std::string runText(char letter, std::size_t length, const DateTime& moment, boo
   }
 }
 
-std::string filledIn(std::string_view form, const DateTime& moment) {
+std::string filledIn(std::string_view form, const DateTime& moment, const Locale& locale) {
   const bool dial = hasHalvesOfDay(form);
   std::string text;
   bool quoted = false;
@@ -66,7 +84,7 @@ std::string filledIn(std::string_view form, const DateTime& moment) {
       text += moment.hour < 12 ? "AM" : "PM";
       taken = 2;
     } else {
-      text += runText(form[0], run, moment, dial);
+      text += runText(form[0], run, moment, locale, dial);
       taken = run;
     }
     form.remove_prefix(taken);
@@ -77,11 +95,11 @@ std::string filledIn(std::string_view form, const DateTime& moment) {
 }  // namespace
 
 std::string dateText(const DateTime& moment, const Locale& locale) {
-  return filledIn(locale.shortDate, moment);
+  return filledIn(locale.shortDate, moment, locale);
 }
 
 std::string generalDate(const DateTime& moment, const Locale& locale) {
-  return dateText(moment, locale) + " " + filledIn(locale.longTime, moment);
+  return dateText(moment, locale) + " " + filledIn(locale.longTime, moment, locale);
 }
 
 }  // namespace nautrel

@@ -123,6 +123,50 @@ TEST_F(PicturesTest, LoadsEveryKindAtWhatAScreenCanShow) {
   }
 }
 
+/// The red field with a text under it, as the 8-bit code page writes it.
+QByteArray lettered(const QByteArray& text) {
+  const QByteArray even = text.size() % 2 == 0 ? text : text + '\0';
+  const auto length = static_cast<quint16>(text.size());
+  QByteArray field = windowsMetafile().chopped(6);
+  field[34] = 60;  // the longest record
+  return field + words({quint16(6 + even.size() / 2), 0, 0x521, length}) + even +
+         words({kInch / 2, kInch}) + words({3, 0, 0});
+}
+
+TEST_F(PicturesTest, DrawsAMetafileWhateverItsTextsHold) {
+  for (const QByteArray& text :
+       {QByteArray("H\xF6he"), QByteArray("\x80 5"), QByteArray("Chris & Pat"), QByteArray("a<b"),
+        QByteArray("</text>x"), QByteArray("\x01\x02"), QByteArray("]]>\"'")}) {
+    const QString path = write("text.wmf", lettered(text));
+    ASSERT_EQ(failureOf(path), 0) << text.constData();
+    EXPECT_TRUE(isRed(pictures_.load(path).pixelColor(20, 20))) << text.constData();
+  }
+}
+
+TEST_F(PicturesTest, LeavesBlankWhatABitmapCutShortDoesNotFill) {
+  const QByteArray whole = photograph({200, 150}, "bmp");
+  for (int round = 0; round < 3; ++round) {
+    std::vector<char> before(200 * 150 * 4, 0x77);  // what memory may hold
+    before.clear();
+    before.shrink_to_fit();
+    const QImage image =
+        pictures_.load(write(QString("cut%1.bmp").arg(round), whole.first(whole.size() / 3)));
+    EXPECT_EQ(image.pixelColor(50, 10), QColor(Qt::white));
+    EXPECT_TRUE(isRed(image.pixelColor(50, 140)));
+  }
+}
+
+TEST_F(PicturesTest, FitsAGifWhoseFirstPartIsSmallerThanIt) {
+  const QByteArray tall = QByteArray::fromHex(
+      "4749463839610200581b8000"
+      "00ff00000000ff"
+      "2c000000000200010000"
+      "0202440a003b");
+  const QImage image = pictures_.load(write("tall.gif", tall));
+  EXPECT_LE(image.height(), 300);
+  EXPECT_GE(image.width(), 1);
+}
+
 TEST_F(PicturesTest, TurnsAPhotographAsTheCameraWasHeld) {
   QByteArray onItsSide = photograph({800, 600});
   onItsSide.insert(2, QByteArray::fromHex("ffe10022457869660000"

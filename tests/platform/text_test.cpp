@@ -158,6 +158,13 @@ TEST(Date, is_written_by_the_forms_of_the_locale) {
   EXPECT_EQ(generalDate(night, kApostrophe), "7.3.99 0:05:09");
   EXPECT_EQ(generalDate(noon, Locale{".", ",", "yyyy-MM-dd", "h:m:s ap"}), "2003-12-24 12:30:0 PM");
   EXPECT_EQ(generalDate(noon, Locale{".", ",", "d.MM.yy 'd.'", "hh'h'mm"}), "24.12.03 d. 12h30");
+  Locale named{".", ",", "ddd dddd, d MMM MMMM", "H"};
+  EXPECT_EQ(generalDate(noon, named), "24 24, 24 12 12 12");
+  named.shortMonths = {"Jan", "Feb", "Mar"};
+  named.months = {"January", "February", "March"};
+  named.shortDays = {"Sun", "Mon"};
+  named.days = {"Sunday", "Monday"};
+  EXPECT_EQ(generalDate(night, named), "Sun Sunday, 7 Mar March 0");
 }
 
 TEST(Characters, count_code_points_even_of_a_damaged_text) {

@@ -20,6 +20,8 @@
 #include <functional>
 #include <iterator>
 
+#include "platform/text.h"
+
 namespace nautrel {
 namespace {
 
@@ -65,10 +67,9 @@ QByteArray stretched(const QByteArray& bytes, const QRect& window) {
 
 // Where a metafile counts upwards, the library writes rectangles of a negative height, which SVG
 // does not draw.
-QByteArray upright(const QByteArray& svg) {
+QString upright(const QString& text) {
   static const QRegularExpression rectangle(
       R"re(<rect x="([^"]*)" y="([^"]*)" width="([^"]*)" height="([^"]*)")re");
-  const QString text = QString::fromLatin1(svg);
   QString result;
   qsizetype done = 0;
   for (const auto& match : rectangle.globalMatch(text)) {
@@ -82,8 +83,34 @@ QByteArray upright(const QByteArray& svg) {
                   .arg(rect.height());
     done = match.capturedEnd();
   }
-  result += QStringView(text).sliced(done);
-  return result.toLatin1();
+  return result += QStringView(text).sliced(done);
+}
+
+/// Text as a metafile has it, in the 8-bit code page, as XML takes it.
+QString escapedText(const QByteArray& bytes) {
+  QString text = QString::fromStdString(
+      fromCodePage({bytes.constData(), static_cast<std::size_t>(bytes.size())}));
+  for (auto& character : text)
+    if (character.category() == QChar::Other_Control) character = ' ';
+  return text.toHtmlEscaped();
+}
+
+// The library writes the texts of a metafile as they are. Each begins on a line of its own, behind
+// a single bracket, and ends with its line.
+QString wellFormed(const QByteArray& svg) {
+  static const QByteArray kStart = "\n\t>";
+  static const QByteArray kEnd = "</text>\n";
+  QString result;
+  qsizetype done = 0;
+  for (auto start = svg.indexOf(kStart); start >= 0; start = svg.indexOf(kStart, done)) {
+    start += kStart.size();
+    const auto end = svg.indexOf(kEnd, start);
+    if (end < 0) break;
+    result += QString::fromLatin1(svg.sliced(done, start - done)) +
+              escapedText(svg.sliced(start, end - start));
+    done = end;
+  }
+  return result += QString::fromLatin1(svg.sliced(done));
 }
 
 QByteArray svgOfWindowsMetafile(QByteArray bytes) {
@@ -107,7 +134,7 @@ QByteArray svgOfWindowsMetafile(QByteArray bytes) {
   char* text = nullptr;
   unsigned long length = 0;
   wmf_stream_destroy(api, svg->out, &text, &length);
-  return upright({text, static_cast<qsizetype>(length)});
+  return upright(wellFormed({text, static_cast<qsizetype>(length)})).toUtf8();
 }
 
 QByteArray svgOfEnhancedMetafile(QByteArray bytes) {

@@ -21,6 +21,21 @@ QByteArray formatOf(const QByteArray& head) {
   return {};
 }
 
+/// Makes the picture blank.
+void clear(QImage& image) {
+  if (image.pixelFormat().colorModel() == QPixelFormat::Indexed)
+    image.fill(0U);
+  else
+    image.fill(Qt::white);
+}
+
+// Some kinds tell the size of their first part alone.
+QImage fitted(const QImage& image, QSize largest) {
+  if (image.width() <= largest.width() && image.height() <= largest.height()) return image;
+  return image.scaled(image.size().scaled(largest, Qt::KeepAspectRatio).expandedTo({1, 1}),
+                      Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 QImage decode(QFile& file, const QByteArray& format, QSize largest) {
   QImageReader reader(&file, format);
   reader.setAutoDetectImageFormat(false);
@@ -32,7 +47,11 @@ QImage decode(QFile& file, const QByteArray& format, QSize largest) {
   const QSize room = onItsSide ? largest.transposed() : largest;
   if (size.width() > room.width() || size.height() > room.height())
     reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1}));
-  return reader.read();
+  // What a file cut short does not fill stays blank.
+  QImage image(size, reader.imageFormat());
+  clear(image);
+  if (!reader.read(&image)) return {};
+  return fitted(image, largest);
 }
 
 QImage readPicture(QFile& file, QSize largest) {

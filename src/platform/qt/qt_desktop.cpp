@@ -10,7 +10,6 @@
 #include <QInputDialog>
 #include <QLocale>
 #include <QMenu>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QUrl>
 
@@ -23,6 +22,7 @@
 #include "platform/qt/message_box.h"
 #include "platform/qt/printing.h"
 #include "platform/qt/qt_looks.h"
+#include "platform/qt/system_locale.h"
 
 namespace nautrel {
 namespace {
@@ -33,19 +33,6 @@ QSize largestScreen() {
   for (const QScreen* screen : QGuiApplication::screens())
     largest = largest.expandedTo(screen->size() * screen->devicePixelRatio());
   return largest;
-}
-
-Locale systemLocale() {
-  const QLocale system;
-  Locale locale;
-  locale.decimal = fromQt(system.decimalPoint());
-  locale.grouping = fromQt(system.groupSeparator());
-  locale.shortDate = fromQt(system.dateFormat(QLocale::ShortFormat));
-  auto time = system.timeFormat(QLocale::LongFormat);
-  time.remove(QRegularExpression(QStringLiteral("\\s*\\(?t+\\)?")));
-  time.replace(QRegularExpression(QStringLiteral("[aA][pP]")), QStringLiteral("AP"));
-  locale.longTime = fromQt(time.trimmed());
-  return locale;
 }
 
 /// "Text (*.a; *.b)|*.a;*.b" as the toolkit's dialogs write it: "Text (*.a *.b)".
@@ -60,7 +47,7 @@ QString nameFilter(const std::string& filter) {
 }  // namespace
 
 QtDesktop::QtDesktop()
-    : locale_(systemLocale()),
+    : locale_(localeOf(QLocale())),
       settings_(QSettings::NativeFormat, QSettings::UserScope,
                 QString::fromUtf8(kApplicationTitle)),
       pictures_(largestScreen()) {}
