@@ -166,7 +166,7 @@ class Comparison {
       highlighted.push_back(index.row());
     same("highlight", list.ListIndex() < 0 ? std::vector<int>{} : std::vector{list.ListIndex()},
          highlighted);
-    same("current line", list.ListIndex(), view.currentIndex().row());
+    if (list.ListIndex() >= 0) same("current line", list.ListIndex(), view.currentIndex().row());
   }
 
   void frame() {

@@ -121,6 +121,8 @@ MainFrame::MainFrame(QtLooks& looks, MDIForm1& form)
     : FormView(looks, form), form_(form), window_(new FrameWindow(form)), area_(new Ground(form)) {
   window_->setObjectName(QStringLiteral("MDIForm1"));
   window_->setWindowIcon(namedIcon("nautrel"));
+  // The toolkit's own menu would take the toolbar away.
+  window_->setContextMenuPolicy(Qt::NoContextMenu);
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
