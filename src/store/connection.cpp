@@ -33,6 +33,30 @@ void requireLogbook(const std::string& path) {
     raise(UnrecognizedFormat, path);
 }
 
+/// Whether changes to the file may still wait in the log beside it.
+bool hasLog(const std::string& path) {
+  std::error_code failed;
+  auto log = fs::canonical(fromUtf8(path), failed);
+  log += "-wal";
+  const auto size = fs::file_size(log, failed);
+  return !failed && size > 0;
+}
+
+/// Names the file so that the engine reads it without a log, for which a full disk has no room.
+std::string unchanging(const std::string& path) {
+  constexpr auto kHex = "0123456789ABCDEF";
+  const auto file = fs::absolute(fromUtf8(path)).generic_u8string();
+  std::string uri = file.starts_with(u8"/") ? "file://" : "file:///";
+  for (const char8_t byte : file) {
+    const auto character = static_cast<unsigned char>(byte);
+    if (character == '%' || character == '?' || character == '#')
+      uri.append({'%', kHex[character >> 4], kHex[character & 15]});
+    else
+      uri += static_cast<char>(character);
+  }
+  return uri + "?immutable=1";
+}
+
 ErrorNumber failureFor(int code) {
   switch (code) {
     case SQLITE_IOERR_WRITE:
@@ -71,10 +95,15 @@ Connection::Connection(std::string path, std::weak_ptr<Unsettled> unsettled)
     : path_(std::move(path)), target_(targetOf(path_)), unsettled_(std::move(unsettled)) {
   requireLogbook(path_);
   try {
-    open(SQLITE_OPEN_READWRITE);
+    open(path_, SQLITE_OPEN_READWRITE);
   } catch (const RunTimeError& failure) {
-    if (failure.number == UnrecognizedFormat || failure.number == DiskFull) throw;
-    raise(CannotOpenFile, path_);
+    lookOnly_ = failure.number == DiskFull && !hasLog(path_);
+    if (lookOnly_)
+      open(unchanging(path_), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+    else if (failure.number == UnrecognizedFormat || failure.number == DiskFull)
+      throw;
+    else
+      raise(CannotOpenFile, path_);
   }
 }
 
@@ -82,13 +111,13 @@ Connection::Connection(std::string path) : path_(std::move(path)) {}
 
 Connection Connection::create(std::string path) {
   Connection made(std::move(path));
-  made.open(SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  made.open(made.path_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
   return made;
 }
 
-void Connection::open(int flags) {
+void Connection::open(const std::string& name, int flags) {
   sqlite3* opened = nullptr;
-  const int code = sqlite3_open_v2(path_.c_str(), &opened,
+  const int code = sqlite3_open_v2(name.c_str(), &opened,
                                    flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
   handle_.reset(opened);
   if (code != SQLITE_OK) raiseFailure(code);
@@ -121,6 +150,7 @@ void Connection::requireSameFile() {
 
 void Connection::beforeWriting() {
   requireSameFile();
+  if (lookOnly_) raise(DiskFull);
   if (sqlite3_db_readonly(handle(), "main") == 1) raise(DatabaseReadOnly);
   if (std::exchange(logAhead_, true)) return;
   // A file that another tool left without the log would sync the disk at every single change. If

@@ -37,7 +37,8 @@ class Connection : public std::enable_shared_from_this<Connection> {
   /// Raises 3051 if another file stands at the path by now, 3024 if none does. Changes that wait in
   /// the log are dropped then: there they would be taken for the other file's.
   void requireSameFile();
-  /// Must come before every change. Raises 3027 and what requireSameFile() raises.
+  /// Must come before every change. Raises 3027, 3026 on a disk that was full at the opening, and
+  /// what requireSameFile() raises.
   void beforeWriting();
   /// The number of rows that the last change touched; notes that there is something to settle.
   int rowsWritten();
@@ -51,7 +52,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
   };
 
   explicit Connection(std::string path);
-  void open(int flags);
+  void open(const std::string& name, int flags);
   bool moved() const;
   sqlite3_file* log() const;
   void syncLog();
@@ -61,7 +62,8 @@ class Connection : public std::enable_shared_from_this<Connection> {
   std::weak_ptr<Unsettled> unsettled_;
   std::unique_ptr<sqlite3, Closer> handle_;
   bool logAhead_ = false;
-  bool waits_ = false;  // for settle()
+  bool waits_ = false;     // for settle()
+  bool lookOnly_ = false;  // on a full disk
 };
 
 /// A prepared statement. Places count from 1 in bind(), columns from 0.

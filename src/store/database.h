@@ -25,8 +25,9 @@ class Workspace {
   Workspace& operator=(const Workspace&) = delete;
 
   /// Opens shared, for reading and writing. Raises 3024 (no file), 3044 (no folder), 3051 (cannot
-  /// be opened), 3343 (no logbook database). A file that was exchanged or taken away while changes
-  /// to it wait for settle() is not opened: 3051, 3024.
+  /// be opened), 3343 (no logbook database), 3026 (disk full, and a log that must be read; without
+  /// one the file is opened for reading alone). A file that was exchanged or taken away while
+  /// changes to it wait for settle() is not opened: 3051, 3024.
   Database OpenDatabase(const std::string& path);
 
   /// Brings everything written so far into the one file and on the disk. Called when the outermost

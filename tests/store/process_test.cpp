@@ -235,6 +235,29 @@ TEST_F(ProcessTest, AReadOnlyFileIsReadAndNotWritten) {
   EXPECT_EQ(files().at("Logbuch.mdb"), before.at("Logbuch.mdb"));
 }
 
+TEST_F(ProcessTest, AFullDiskIsLookedAtUnlessALogWaits) {
+  addDives(1, 2);
+  const auto before = readFile(path);
+  for (const bool crashed : {false, true}) {
+    if (crashed) home.write(std::string(kLogbookFile) + "-wal", "what a crash left");
+    Child child([&](const Child::Tell& tell) {
+      std::signal(SIGXFSZ, SIG_IGN);
+      const rlimit nothing{1000, 1000};
+      setrlimit(RLIMIT_FSIZE, &nothing);
+      Workspace own;
+      auto dives = own.OpenDatabase(path).OpenDynaset(Tabelle::Logbuch);
+      dives.MoveLast();
+      tell(std::stoi(number(dives)));
+      dives.Edit();
+    });
+    int told = 0;
+    ASSERT_TRUE(child.next(told));
+    EXPECT_EQ(told, crashed ? -DiskFull : 2);
+    EXPECT_EQ(child.wait(), crashed ? 0 : -DiskFull);
+    EXPECT_TRUE(readFile(path) == before);
+  }
+}
+
 TEST_F(ProcessTest, AFullDiskLosesNoAcknowledgedDive) {
   Child child([&](const Child::Tell& tell) {
     std::signal(SIGXFSZ, SIG_IGN);
