@@ -77,7 +77,7 @@ void Form3::Data1_Reposition() {
   const bool follow = shared.ListeNachziehen;
   if (follow)
     resumeNext([&] {
-      List1.setListIndex(toInt16(number(Text1.text()) - shared.ErsteNummer.number(locale())));
+      selectIfShown(toInt16(number(Text1.text()) - shared.ErsteNummer.number(locale())));
     });
   shared.ListeNachziehen = false;
 }
@@ -132,6 +132,7 @@ void Form3::Data1_MouseDown() {
 }
 
 void Form3::List1_Click() {
+  if (following_) return;
   auto& rows = Data1.Recordset();
   if (List1.text() == app_.Modul1().LetzteNummer.joined(locale())) return rows.MoveLast();
   rows.Move(toInt32(number(List1.text()) - rows.Fields(Feld::Nr).number(locale())));
@@ -153,7 +154,15 @@ void Form3::Command1_Click() {
 // Counts from 1 and not from the first number: in a logbook that begins elsewhere the list does
 // not follow a jump.
 void Form3::selectByCount() {
-  List1.setListIndex(toInt16(number(Text1.text()) - 1));
+  selectIfShown(toInt16(number(Text1.text()) - 1));
+}
+
+// With numbers out of order the line may be another dive's, and the way there and back without end.
+void Form3::selectIfShown(int line) {
+  if (List1.List(line) != Text1.text()) return;
+  following_ = true;
+  List1.setListIndex(line);
+  following_ = false;
 }
 
 void Form3::Command3_Click() {

@@ -10,7 +10,7 @@ class Nautrel;
 
 /// "View Logbook": one dive at a time, read-only, with the list of all numbers beside it.
 ///
-/// Another window shows a dive here from outside: Show(), then ListeNachziehen := true, then
+/// Another window shows a dive here from outside: Show(), then, as long as a ListFollows lives,
 /// Data1.Recordset().Move(target - currentNumber()).
 class Form3 : public Form {
  public:
@@ -68,8 +68,10 @@ class Form3 : public Form {
   void showTexts();
   void showFlags();
   void selectByCount();
+  void selectIfShown(int line);
 
   Nautrel& app_;
+  bool following_ = false;  // the list follows the record, and does not lead it
 };
 
 }  // namespace nautrel

@@ -32,7 +32,7 @@ void Form19::jump(RecordForm& record) {
 }
 
 void Form19::Anzeigen() {
-  app_.Modul1().ListeNachziehen = true;
+  const ListFollows follows(app_.Modul1());
   jump(app_.Form3());
 }
 

@@ -1,5 +1,6 @@
 #include "search/SearchForm.h"
 
+#include <optional>
 #include <utility>
 
 #include "dives/Form3.h"
@@ -168,15 +169,20 @@ void SearchForm::openIn(RecordForm& (Nautrel::*window)(), const char* mode, bool
   const double target = number(List1.text());
   auto& rows = record.Data1.Recordset();
   const int difference = toInt32(target - record.currentNumber());
-  if (listFollows) app_.Modul1().ListeNachziehen = true;
-  rows.Move(difference);
+  {
+    std::optional<ListFollows> follows;
+    if (listFollows) follows.emplace(app_.Modul1());
+    rows.Move(difference);
+  }
   showFoundDives(record, mode);
 }
 
-// The mode comes last, so that the click which the selection raises does not jump once more.
+// The mode comes last, so that the click which the selection raises does not jump once more, nor
+// move the window that a list still open has led.
 void SearchForm::showFoundDives(const Form& beside, const char* mode) {
   app_.Form19().Show();
   auto& found = app_.Form19();
+  found.Text1.setText("");
   found.setWidth(Form19::kListWidth + 100);
   found.setHeight(beside.Height());
   found.setLeft(beside.Left() - found.Width());

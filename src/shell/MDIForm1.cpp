@@ -1,6 +1,7 @@
 #include "shell/MDIForm1.h"
 
 #include <array>
+#include <optional>
 #include <utility>
 
 #include "dives/Form3.h"
@@ -285,7 +286,8 @@ void MDIForm1::showRecordDive(int window) {
       [&] { target = number(app_.Form6().recordButton(app_.Modul1().StatistikKnopf).caption()); });
   double distance = 0;
   resumeNext([&] { distance = target - currentNumberOf(window); });
-  if (window == 3) app_.Modul1().ListeNachziehen = true;
+  std::optional<ListFollows> follows;
+  if (window == 3) follows.emplace(app_.Modul1());
   resumeNext([&] { recordsOf(window).Move(toInt32(distance)); });
 }
 

@@ -38,6 +38,18 @@ class Modul1 {
   Nautrel& app_;
 };
 
+/// As long as it lives, Form3's list follows its record.
+class ListFollows {
+ public:
+  explicit ListFollows(Modul1& shared) : shared_(shared) { shared_.ListeNachziehen = true; }
+  ~ListFollows() { shared_.ListeNachziehen = false; }
+  ListFollows(const ListFollows&) = delete;
+  ListFollows& operator=(const ListFollows&) = delete;
+
+ private:
+  Modul1& shared_;
+};
+
 /// The window whose name stands under `Start`/`Window`; 0 for one that is unknown. Exact.
 int startWindow(const std::string& setting);
 

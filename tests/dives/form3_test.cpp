@@ -94,6 +94,42 @@ TEST_F(ViewLogbook, NumberedFromElsewhereThanOneTheListDoesNotFollowAJump) {
   }
 }
 
+TEST_F(ViewLogbook, OutOfRangeOrNumberedFromElsewhereAJumpLeavesRecordAndListInPeace) {
+  addDives(5, 14);
+  auto& form = open();
+  for (const auto& [answer, shown] : {std::pair{"100", "5"}, {"7", "7"}, {"4", "7"}}) {
+    desktop->answerInput(answer);
+    click(form.Command1);
+    EXPECT_EQ(form.Text1.text(), shown) << answer;
+    EXPECT_EQ(form.List1.text(), "5") << answer;
+  }
+}
+
+// Every press shows the row it leads to, and the list follows only where it holds that number.
+TEST_F(ViewLogbook, AnyOrderOfNumbersCanBeLeafedThrough) {
+  const std::vector<Texts> logbooks = {
+      {"1", "1", "4", "2"}, {"1", "3", "5", "2", "4", "6"}, {"1", "3", "3", "3", "1", "2"},
+      {"2", "1"},           {"3", "abc", "", "1e9", "1"},   {"1", "1", "1"}};
+  for (const auto& numbers : logbooks) {
+    for (const auto& number : numbers) add({{"Nr", number}});
+    restart();
+    click(app->MDIForm1().Menü3a);
+    auto& form = app->Form3();
+    const auto last = numbers.size() - 1;
+    press(form.Data1, Arrow::Last);
+    EXPECT_EQ(form.Text1.text(), numbers[last]);
+    for (std::size_t row = last; row-- > 0;) {
+      press(form.Data1, Arrow::Previous);
+      EXPECT_EQ(form.Text1.text(), numbers[row]);
+    }
+    for (int line = 0; line <= static_cast<int>(last); ++line) click(form.List1, line);
+    const auto failure = desktop->failure() ? desktop->failure()->number : 0;
+    EXPECT_TRUE(failure == 0 || failure == TypeMismatch || failure == NoCurrentRecord) << failure;
+    app.reset();
+    for (std::size_t row = 0; row < numbers.size(); ++row) deleteElsewhere("Logbuch", 0);
+  }
+}
+
 TEST_F(ViewLogbook, NullColumnsLeaveTheirBoxesEmptyAndTheRestIsShown) {
   auto& form = openWith({{"Nr", "1"}, {"Tag", "1"}, {"Ort", "Dahab"}, {"Blei", "12"}});
   EXPECT_EQ(form.Text2.text(), "");

@@ -301,6 +301,7 @@ TEST_F(Statistic, AButtonWithoutADiveLeavesTheFirstOneAndTheMenuMayBeLeftWithout
   desktop->answerMenu("Menü8a");
   click(form.Command5);
   EXPECT_EQ(app->Form3().Text1.text(), "5");
+  EXPECT_FALSE(app->Modul1().ListeNachziehen);
 }
 
 }  // namespace

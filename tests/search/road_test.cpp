@@ -147,6 +147,22 @@ TEST_F(RoadTest, TakenTwiceFillsTheListTwiceAndClosingTheSearchTakesItAwayAndLea
   EXPECT_FALSE(app->loaded(20));
 }
 
+TEST_F(RoadTest, AHitInAnotherWindowLeavesTheFirstAndItsInputAlone) {
+  startWithHits();
+  auto& search = found(12);
+  click(search.Option2);
+  doubleClick(search.List1, 0);
+  auto& edited = app->Form4();
+  type(edited.Text4, "!");
+  const auto typed = edited.Text4.text();
+  search.userState(WindowState::Normal);
+  click(search.Option1);
+  doubleClick(search.List1, 2);
+  EXPECT_EQ(shownDive(3), "6");
+  EXPECT_EQ(shownDive(4), "2");
+  EXPECT_EQ(edited.Text4.text(), typed);
+}
+
 TEST_F(RoadTest, ListKeepsTheOldNumbersAfterADeletionAndFindsTheDivesThatHaveThemNow) {
   startWithHits();
   auto& search = found(12);
