@@ -104,7 +104,7 @@ void measureSearch(Nautrel& app) {
   auto& search = app.Form20();
   const auto again = [&] {
     search.neue_Suche();
-    search.Combo1.userType("water");
+    search.Combo1.userReplace(0, 0, "water");
     search.Command1.userClick();
   };
   settleScreen();

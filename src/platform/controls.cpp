@@ -8,6 +8,15 @@
 #include "platform/text.h"
 
 namespace nautrel {
+namespace {
+
+std::string withoutPart(std::string text, std::size_t start, std::size_t length) {
+  const auto from = byteOfCharacter(text, start);
+  text.erase(from, byteOfCharacter(text, start + length) - from);
+  return text;
+}
+
+}  // namespace
 
 Captioned::Captioned(Form& form, std::string name, std::string caption)
     : Control(form, std::move(name)), caption_(std::move(caption)) {}
@@ -70,40 +79,34 @@ void TextBox::userSelect(std::size_t start, std::size_t length) {
 }
 
 void TextBox::userInsert(std::string_view typed) {
-  replace(start_, length_, typed);
+  userReplace(start_, length_, typed);
 }
 
 void TextBox::userBackspace() {
-  if (length_ > 0) return replace(start_, length_, {});
-  if (start_ > 0) replace(start_ - 1, 1, {});
+  if (length_ > 0) return userReplace(start_, length_, {});
+  if (start_ > 0) userReplace(start_ - 1, 1, {});
 }
 
 void TextBox::userDelete() {
-  replace(start_, length_ > 0 ? length_ : 1, {});
+  userReplace(start_, length_ > 0 ? length_ : 1, {});
 }
 
-void TextBox::replace(std::size_t start, std::size_t length, std::string_view inserted) {
-  const auto from = byteOfCharacter(text_, start);
-  const auto to = byteOfCharacter(text_, start + length);
-  userEdit(text_.substr(0, from).append(inserted).append(text_, to), start + characters(inserted));
+void TextBox::userReplace(std::size_t start, std::size_t length, std::string_view inserted) {
+  form().program().handle([&] {
+    changed();
+    if (locked_ || !enabled() || !form().enabled()) return;
+    replace(start, length, multiLine_ ? std::string(inserted) : onOneLine(inserted));
+  });
 }
 
-void TextBox::userEdit(std::string_view text, std::size_t caret) {
-  std::string result(text);
-  const auto size = characters(result);
-  if (maxLength_ != 0 && size > maxLength_) {
-    const auto excess = std::min(size - maxLength_, caret);
-    const auto cut = byteOfCharacter(result, caret - excess);
-    result.erase(cut, byteOfCharacter(result, caret) - cut);
-    caret -= excess;
+void TextBox::replace(std::size_t start, std::size_t length, std::string inserted) {
+  auto text = withoutPart(text_, start, length);
+  if (maxLength_ != 0) {
+    const auto kept = characters(text);
+    inserted = firstCharacters(inserted, maxLength_ - std::min(kept, maxLength_));
   }
-  form().program().handle([&] { edit(std::move(result), caret); });
-}
-
-void TextBox::edit(std::string text, std::size_t caret) {
-  changed();
-  if (locked_ || !enabled() || !form().enabled()) return;
-  start_ = caret;
+  text.insert(byteOfCharacter(text, start), inserted);
+  start_ = start + characters(inserted);
   length_ = 0;
   if (text_ == text) return;
   text_ = std::move(text);
@@ -299,10 +302,13 @@ void ComboBox::setText(const std::string& text) {
   raiseEvent(style_ == Style::ListOnly ? Click : Change);
 }
 
-void ComboBox::userType(const std::string& text) {
+void ComboBox::userReplace(std::size_t start, std::size_t length, std::string_view inserted) {
   form().program().handle([&] {
     changed();
-    if (style_ == Style::FreeText && enabled() && form().enabled()) setText(text);
+    if (style_ != Style::FreeText || !enabled() || !form().enabled()) return;
+    auto text = withoutPart(text_, start, length);
+    text.insert(byteOfCharacter(text, start), onOneLine(inserted));
+    setText(text);
   });
 }
 

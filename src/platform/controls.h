@@ -67,21 +67,21 @@ class TextBox : public Control {
 
   Event Change;
 
-  /// What the user does in the box: characters typed or pasted over the selection; a key; or, from
-  /// a look that edits by itself, the whole new text with the caret behind the edit.
+  /// What the user does in the box: characters typed, pasted or dropped over the selection; a key;
+  /// or, from a look that edits by itself, over any part of the text. A box of one line takes what
+  /// comes in as onOneLine() does, and what does not fit is cut from it.
   /// @{
   void userInsert(std::string_view typed);
   void userBackspace();
   void userDelete();
-  void userEdit(std::string_view text, std::size_t caret);
+  void userReplace(std::size_t start, std::size_t length, std::string_view inserted);
   void userSelect(std::size_t start, std::size_t length);
   /// @}
 
   bool takesFocus() const override { return true; }
 
  private:
-  void replace(std::size_t start, std::size_t length, std::string_view inserted);
-  void edit(std::string text, std::size_t caret);
+  void replace(std::size_t start, std::size_t length, std::string inserted);
 
   std::string text_;
   std::size_t maxLength_;
@@ -216,7 +216,8 @@ class ComboBox : public Control {
   Event Change;
   Event Click;
 
-  void userType(const std::string& text);
+  /// Characters typed, pasted or dropped over a part of the text, taken in as onOneLine() does.
+  void userReplace(std::size_t start, std::size_t length, std::string_view inserted);
   void userSelect(int index);
   bool takesFocus() const override { return true; }
 

@@ -161,6 +161,10 @@ void Desktop::end(const std::optional<RunTimeError>& failure) {
   endLoop(failure);
 }
 
+void Desktop::endByFault() {
+  if (const auto failure = failureInFlight()) end(failure);
+}
+
 void CommonDialog::ShowOpen() {
   const auto file = desktop_.openFile(request_);
   if (!file) raise(DialogCancelled);

@@ -100,6 +100,15 @@ class Desktop {
   /// Ends the program, with the run-time's message for a failure.
   void end(const std::optional<RunTimeError>& failure = {});
   bool ended() const { return ended_; }
+  /// Runs what the event loop calls; whatever flies out of it goes no further and ends the program.
+  template <class Action>
+  void atEdge(Action&& action) {
+    try {
+      action();
+    } catch (...) {
+      endByFault();
+    }
+  }
 
   /// The files that no save dialog hands back, by any spelling or link, whether they exist or not.
   void setOwnFiles(const std::vector<std::string>& paths);
@@ -134,6 +143,7 @@ class Desktop {
 
  private:
   void openDoor(bool modal = false);
+  void endByFault();
   bool accepts(const std::string& name, const DialogRequest& request);
 
   bool ended_ = false;

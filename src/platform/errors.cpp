@@ -1,6 +1,8 @@
 #include "platform/errors.h"
 
 #include <array>
+#include <exception>
+#include <new>
 #include <utility>
 
 namespace nautrel {
@@ -40,24 +42,45 @@ constexpr std::array<std::pair<int, const char*>, 29> kTexts{{
     {DialogCancelled, "Cancel was selected."},
 }};
 
-}  // namespace
-
-void raise(ErrorNumber number, const std::string& name) {
+RunTimeError failure(ErrorNumber number, const std::string& name = {}) {
   std::string text;
   for (const auto& [known, standing] : kTexts)
     if (known == number) text = standing;
   if (const auto place = text.find("'X'"); place != std::string::npos)
     text.replace(place + 1, 1, name);
-  throw RunTimeError{number, text};
+  return {number, text};
+}
+
+RunTimeError failureBecause(ErrorNumber number, const std::string& reason) {
+  auto known = failure(number);
+  if (known.text.ends_with('.')) known.text.pop_back();
+  known.text += ": " + reason;
+  return known;
+}
+
+}  // namespace
+
+void raise(ErrorNumber number, const std::string& name) {
+  throw failure(number, name);
 }
 
 void raiseBecause(ErrorNumber number, const std::string& reason) {
+  throw failureBecause(number, reason);
+}
+
+std::optional<RunTimeError> failureInFlight() {
   try {
-    raise(number);
-  } catch (RunTimeError& failure) {
-    if (failure.text.ends_with('.')) failure.text.pop_back();
-    failure.text += ": " + reason;
     throw;
+  } catch (const RunTimeError& raised) {
+    return raised;
+  } catch (const ProgramEnd&) {
+    return {};
+  } catch (const std::bad_alloc&) {
+    return failure(OutOfMemory);
+  } catch (const std::exception& fault) {
+    return failureBecause(InternalError, fault.what());
+  } catch (...) {
+    return failure(InternalError);
   }
 }
 

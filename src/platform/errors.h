@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace nautrel {
@@ -53,6 +54,10 @@ struct ProgramEnd {};
 
 /// Raises the failure with its standing text and, behind it, what is known of the case.
 [[noreturn]] void raiseBecause(ErrorNumber number, const std::string& reason);
+
+/// What the exception in flight is to the user: out of memory 7, and 51 if it is no failure of the
+/// run-time at all. Nothing for ProgramEnd. To be called while one is being caught.
+std::optional<RunTimeError> failureInFlight();
 
 /// Runs one statement whose failure is passed over.
 template <class Statement>

@@ -254,7 +254,7 @@ void Form::userType(std::string_view typed) {
     if (!enabled_ || !visible_) return;
     if (auto* box = dynamic_cast<TextBox*>(active_)) return box->userInsert(typed);
     if (auto* combo = dynamic_cast<ComboBox*>(active_))
-      combo->userType(combo->text() + std::string(typed));
+      combo->userReplace(characters(combo->text()), 0, typed);
   });
 }
 

@@ -109,17 +109,11 @@ std::vector<Form*> Program::loadedForms() const {
 
 void Program::leave() {
   if (--depth_ > 0) return;
-  settleAtEdge();
-  unloaded_.clear();
-  if (looks_ != nullptr) looks_->flush();
-}
-
-void Program::settleAtEdge() {
-  try {
-    settle();
-  } catch (const RunTimeError& failure) {
-    desktop_.end(failure);
-  }
+  desktop_.atEdge([this] { settle(); });
+  desktop_.atEdge([this] {
+    unloaded_.clear();
+    if (looks_ != nullptr) looks_->flush();
+  });
 }
 
 }  // namespace nautrel

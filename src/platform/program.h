@@ -29,14 +29,8 @@ class Program {
   template <class Action>
   void handle(Action&& action) {
     if (desktop_.ended()) return;
-    ++depth_;
-    try {
-      action();
-    } catch (const RunTimeError& failure) {
-      desktop_.end(failure);
-    } catch (const ProgramEnd&) {
-    }
-    leave();
+    const Running running(*this);
+    desktop_.atEdge(action);
   }
   bool handling() const { return depth_ > 0; }
 
@@ -80,7 +74,18 @@ class Program {
   void leaveStack(const Form& form);
   void asRoot(const std::function<void()>& procedure);
   void leave();
-  void settleAtEdge();
+
+  /// An action under way; at the end of the outermost one the program comes to rest.
+  class Running {
+   public:
+    explicit Running(Program& program) : program_(program) { ++program_.depth_; }
+    ~Running() { program_.leave(); }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+
+   private:
+    Program& program_;
+  };
 
   Desktop& desktop_;
   Looks* looks_ = nullptr;

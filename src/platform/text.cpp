@@ -71,7 +71,32 @@ char codePageByte(char32_t code) {
   return static_cast<char>(kFirstOwn + static_cast<unsigned>(place - kOwn.begin()));
 }
 
+bool isBreak(char32_t code) {
+  return (code >= '\n' && code <= '\r') || code == 0x85 || code == 0x2028 || code == 0x2029;
+}
+
+bool isControl(char32_t code) {
+  return code < 0x20 || (code >= 0x7F && code < 0xA0);
+}
+
 }  // namespace
+
+std::string onOneLine(std::string_view text) {
+  std::string line;
+  std::size_t behindLastText = 0;
+  for (std::size_t byte = 0; byte < text.size();) {
+    const auto [code, bytes] = characterAt(text, byte);
+    const bool crLf = code == '\r' && text.substr(byte + 1, 1) == "\n";
+    if (isBreak(code) || isControl(code))
+      line += ' ';
+    else
+      line += text.substr(byte, bytes);
+    if (!isBreak(code)) behindLastText = line.size();
+    byte += crLf ? 2 : bytes;
+  }
+  line.resize(behindLastText);
+  return line;
+}
 
 std::string lowerCase(std::string_view text) {
   std::string lower;

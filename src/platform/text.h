@@ -63,6 +63,10 @@ std::string generalDate(const DateTime& moment, const Locale& locale);
 /// Lower case by simple folding: every character stays one character.
 std::string lowerCase(std::string_view text);
 
+/// As a box of one line takes a text in: line breaks at its end are dropped, and every other break,
+/// tab and control character becomes a blank. CR LF is one break.
+std::string onOneLine(std::string_view text);
+
 /// Lengths and positions count characters (code points), from 0.
 std::size_t characters(std::string_view text);
 std::string firstCharacters(std::string_view text, std::size_t count);

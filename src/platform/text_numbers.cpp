@@ -183,7 +183,7 @@ Decimal decimalOf(double number) {
   if (text[kExponent - 1] == '-') exponent = -exponent;
 
   Decimal decimal;
-  decimal.negative = number < 0;
+  decimal.negative = std::signbit(number);
   decimal.digits.assign(1, text[0]).append(text.data() + 2, kSignificantDigits - 1);
   decimal.point = exponent + 1;
   decimal.trim();
@@ -259,15 +259,15 @@ std::string formatNumber(double number, std::string_view pattern, const Locale& 
   auto decimal = decimalOf(number);
   decimal.round(wanted.decimals);
 
-  // What rounds to zero keeps its sign.
-  std::string text = decimal.negative ? "-" : "";
-  const auto whole = decimal.whole();
-  if (whole.size() < wanted.wholeDigits) text.append(wanted.wholeDigits - whole.size(), '0');
-  text += whole;
-  if (!wanted.separator) return text;
-  auto fraction = decimal.fraction();
-  if (fraction.size() < wanted.fractionDigits) fraction.resize(wanted.fractionDigits, '0');
-  return text + locale.decimal + fraction;
+  auto text = decimal.whole();
+  if (text.size() < wanted.wholeDigits) text.insert(0, wanted.wholeDigits - text.size(), '0');
+  if (wanted.separator) {
+    auto fraction = decimal.fraction();
+    if (fraction.size() < wanted.fractionDigits) fraction.resize(wanted.fractionDigits, '0');
+    text += locale.decimal + fraction;
+  }
+  // What rounds to zero keeps its sign, but a sign alone is no number.
+  return decimal.negative && !text.empty() ? "-" + text : text;
 }
 
 }  // namespace nautrel

@@ -115,7 +115,7 @@ TEST(Units, keep_what_is_typed_and_read_it_as_the_locale_does) {
   } cases[] = {{kPoint, " 1,000 ", "393.000000000"}, {kPoint, "1,5", "5.895000000"},
                {kPoint, "1E3", "393.000000000"},     {kPoint, "-2.", "-0.786000000"},
                {kComma, "1,5", "0,589500000"},       {kComma, "1.5", "5,895000000"},
-               {kPoint, "0", "0.000000000"},         {kPoint, "-0", "0.000000000"},
+               {kPoint, "0", "0.000000000"},         {kPoint, "-0", "-0.000000000"},
                {kPoint, "1E-300", "0.000000000"}};
   for (const auto& c : cases) {
     Page page(c.locale);
@@ -123,6 +123,11 @@ TEST(Units, keep_what_is_typed_and_read_it_as_the_locale_does) {
     EXPECT_EQ(page[2], c.inches) << c.typed;
     EXPECT_EQ(page[1], c.typed);
   }
+  Page tiny;
+  tiny.type(1, "-0.0000000001");
+  const auto shown = tiny.others(1);
+  tiny.type(1, "x");
+  EXPECT_EQ(tiny.others(1), shown);
 }
 
 TEST(Units, keep_the_last_valid_conversion_while_broken_and_are_emptied_with_their_source) {

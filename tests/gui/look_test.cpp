@@ -3,8 +3,10 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QLabel>
 #include <QMdiSubWindow>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -16,8 +18,10 @@
 #include "calculators/Form21.h"
 #include "dives/Form2.h"
 #include "dives/Form3.h"
+#include "dives/Form4.h"
 #include "gui/gui_test.h"
 #include "platform/qt/navigator_bar.h"
+#include "search/Form12.h"
 
 namespace nautrel {
 namespace {
@@ -191,6 +195,67 @@ TEST_F(Look, PastingStaysInTheBoxAndOtherCommandsReachTheMenu) {
   key(Qt::Key_V, Qt::ControlModifier);
   EXPECT_TRUE(app->loaded(3)) << "a locked box pastes nothing, so the command is the menu's";
   EXPECT_FALSE(app->loaded(2));
+}
+
+// Two pastes in the middle of a text, and a drop.
+TEST_F(Look, NoBreakComesIntoOneLineAndTheCaretStaysBehindWhatCame) {
+  auto& form = insert();
+  auto& box = widget<QLineEdit>(form.Text4);
+  QMimeData mime;
+  mime.setText("Blue\r\nHole\t\n");
+  QApplication::clipboard()->setText(mime.text());
+  mouse(form.Text4);
+  keys("()");
+  key(Qt::Key_Left);
+  key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(form.Text4.text(), "(Blue Hole )");
+  EXPECT_EQ(fromQt(box.text()), "(Blue Hole )");
+  EXPECT_EQ(box.cursorPosition(), 11);
+  box.clear();
+  QDragEnterEvent enter({2, 2}, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&box, &enter);
+  QDropEvent drop({2, 2}, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&box, &drop);
+  settle();
+  EXPECT_EQ(fromQt(box.text()), "Blue Hole ");
+
+  click(app->MDIForm1().Menü3b);
+  settle();
+  auto& term = app->Form12().Combo1;
+  auto& typed = *widget<QComboBox>(term).lineEdit();
+  typed.setFocus();
+  keys("()");
+  key(Qt::Key_Left);
+  key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(term.text(), "(Blue Hole )");
+  EXPECT_EQ(fromQt(typed.text()), "(Blue Hole )");
+  EXPECT_EQ(typed.cursorPosition(), 11);
+}
+
+TEST_F(Look, AnEditedCommentKeepsEveryOtherCharacter) {
+  const std::string kept = "30\u00A0m\u2028two\u2029three\r\nfour\rfive\tsix\n\U0001F41F";
+  auto dive = someDive(1);
+  dive["Lang"] = kept + "seven";
+  add(dive);
+  auto& form = open(&MDIForm1::Menü2b, &Nautrel::Form4);
+  choose(form.SSTab1, 1);
+  settle();
+  auto& box = widget<QPlainTextEdit>(form.Text11);
+  mouse(form.Text11);
+  key(Qt::Key_End, Qt::ControlModifier);
+  key(Qt::Key_Backspace);
+  keys("m");
+  EXPECT_EQ(form.Text11.text(), kept + "sevem");
+  key(Qt::Key_Return);
+  QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
+  keys("x");
+  EXPECT_EQ(form.Text11.text(), kept + "sevem\n\nx");
+  key(Qt::Key_Home, Qt::ControlModifier);
+  key(Qt::Key_Delete);
+  EXPECT_EQ(form.Text11.text(), kept.substr(1) + "sevem\n\nx");
+  box.selectAll();
+  keys("y");
+  EXPECT_EQ(form.Text11.text(), "y");
 }
 
 TEST_F(Look, TheListLeadsAndFollowsTheNavigatorLeavesTheFocusAndTheFrameCloses) {

@@ -1,4 +1,5 @@
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QMdiSubWindow>
 
@@ -64,6 +65,12 @@ TEST_F(GuiTest, TheTableReadsOnlyTheRowsInSight) {
   EXPECT_EQ(shown(400, 10), "one line");
   EXPECT_EQ(shown(400, 14), "True");
   EXPECT_EQ(fromQt(view.model()->headerData(29, Qt::Horizontal).toString()), "Grafik");
+
+  view.setCurrentIndex(view.model()->index(400, 10));
+  QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+  view.setCurrentIndex({});
+  QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(fromQt(QApplication::clipboard()->text()), "one line");
 }
 
 TEST_F(GuiTest, TheTableIsTheOneThatCanBeSizedAndItsGridFollows) {

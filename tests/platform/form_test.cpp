@@ -60,6 +60,8 @@ class Window : public Form {
   OptionButton Green{*this, "Green"};
   CheckBox Check{*this, "Check"};
   TextBox Behind{*this, "Behind"};
+  TextBox Notes{*this, "Notes", {.multiLine = true}};
+  ComboBox Term{*this, "Term", ComboBox::Style::FreeText};
   TabStrip Pages{*this, "Pages", {"Front", "Back"}};
   Button Stop{*this, "Stop", "Stop"};
   ListBox Lines{*this, "Lines"};
@@ -151,6 +153,37 @@ TEST_F(FormTest, ABoxCutsWhatDoesNotFitAndTellsRealChangesOnly) {
   EXPECT_EQ(window.First.text(), "ä1bß") << "an insertion is cut, not the tail";
   press(window, Key::Backspace);
   EXPECT_EQ(window.First.text(), "äbß");
+}
+
+TEST_F(FormTest, WhatIsPastedIntoOneLineHoldsNoBreak) {
+  auto& window = shown();
+  const std::pair<const char*, const char*> cases[] = {
+      {"Red Sea\r\nDahab\r\n\r\n", "Red Sea Dahab"},
+      {"a\tb\x01"
+       "c\x7F\xC2\x80"
+       "d",
+       "a b c  d"},
+      {"a\u2028b\u2029c\u0085\n", "a b c"},
+      {"a\n\rb\t\n", "a  b "},
+      {"\r\n\n", ""},
+      {"no-break\u00A0blank", "no-break\u00A0blank"}};
+  for (const auto& [pasted, kept] : cases) {
+    window.Second.setText("");
+    paste(window.Second, pasted);
+    EXPECT_EQ(window.Second.text(), kept) << pasted;
+    window.Term.setText("");
+    focus(window.Term);
+    window.userType(pasted);
+    EXPECT_EQ(window.Term.text(), kept) << pasted;
+    window.Notes.setText("");
+    paste(window.Notes, pasted);
+    EXPECT_EQ(window.Notes.text(), pasted);
+  }
+  paste(window.First, "a\r\nbcdef\n");
+  EXPECT_EQ(window.First.text(), "a bc");
+  window.Second.setText("from\telsewhere\n");
+  paste(window.Second, "!\n");
+  EXPECT_EQ(window.Second.text(), "from\telsewhere\n!");
 }
 
 TEST_F(FormTest, OptionsOfAContainerAreExclusiveAndClickOnlyWhenTheyGoOn) {
@@ -295,6 +328,43 @@ TEST_F(FormTest, AnAccessKeyWithSeveralOwnersGoesOnFromTheFocus) {
   EXPECT_FALSE(window.userAccessKey("p")) << "a page behind answers nothing";
   window.userTurnPage(1);
   EXPECT_EQ(window.Pages.Tab(), 0);
+}
+
+/// A look that fails when it is to follow.
+class BrokenLooks : public Looks {
+ public:
+  std::unique_ptr<FormLook> make(Form&) override { return {}; }
+  void flush() override { throw std::logic_error("no screen"); }
+};
+
+TEST(Edge, WhateverFliesOutOfAnActionEndsTheProgramThere) {
+  const std::tuple<int, std::string, std::function<void()>> cases[] = {
+      {13, "Type mismatch", [] { raise(TypeMismatch); }},
+      {7, "Out of memory", [] { throw std::bad_alloc(); }},
+      {51, "Internal error: lost", [] { throw std::logic_error("lost"); }},
+      {51, "Internal error", [] { throw 1; }}};
+  for (const auto& [number, text, fault] : cases) {
+    ScriptedDesktop desktop({});
+    Scene scene(desktop);
+    auto& window = scene.open();
+    window.Press.Click = [&, fault = fault] { resumeNext([&] { scene.handle(fault); }); };
+    window.Show();
+    click(window.Press);
+    ASSERT_TRUE(desktop.failure()) << text;
+    EXPECT_EQ(desktop.failure()->number, number);
+    EXPECT_EQ(desktop.failure()->text, text);
+    EXPECT_FALSE(scene.handling());
+  }
+}
+
+TEST(Edge, AScreenThatCannotFollowEndsTheProgramToo) {
+  ScriptedDesktop desktop({});
+  BrokenLooks looks;
+  Scene scene(desktop);
+  scene.setLooks(&looks);
+  scene.handle([] {});
+  ASSERT_TRUE(desktop.failure());
+  EXPECT_EQ(desktop.failure()->text, "Internal error: no screen");
 }
 
 }  // namespace

@@ -225,8 +225,10 @@ class ComboBinding : public Binding {
       widget.setInsertPolicy(QComboBox::NoInsert);
       widget.setCompleter(nullptr);
       watch(*widget.lineEdit());
-      connect(&widget, &QComboBox::editTextChanged, this,
-              [this](const QString& text) { box_.userType(fromQt(text)); });
+      connect(&widget, &QComboBox::editTextChanged, this, [this](const QString& text) {
+        const auto edit = editBetween(toQt(box_.text()), text, out_.lineEdit()->cursorPosition());
+        box_.userReplace(edit.start, edit.length, fromQt(edit.inserted));
+      });
     }
     connect(&widget, &QComboBox::activated, this, [this](int index) { box_.userSelect(index); });
   }
@@ -243,10 +245,18 @@ class ComboBinding : public Binding {
       out_.addItem(toQt(lines[static_cast<std::size_t>(out_.count())]));
     if (out_.currentIndex() != box_.ListIndex()) out_.setCurrentIndex(box_.ListIndex());
     if (box_.style() == ComboBox::Style::ListOnly) return;
-    if (const auto text = toQt(box_.text()); out_.currentText() != text) out_.setEditText(text);
+    if (const auto text = toQt(box_.text()); out_.currentText() != text) rewrite(text);
   }
 
  private:
+  // The caret keeps its distance from the end.
+  void rewrite(const QString& text) {
+    auto& line = *out_.lineEdit();
+    const auto fromEnd = line.text().size() - line.cursorPosition();
+    out_.setEditText(text);
+    line.setCursorPosition(static_cast<int>(qMax(text.size() - fromEnd, qsizetype(0))));
+  }
+
   ComboBox& box_;
   QComboBox& out_;
 };

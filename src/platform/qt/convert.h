@@ -40,4 +40,14 @@ int toQtPosition(const QString& text, std::size_t characters);
 std::size_t fromQtPosition(const QString& text, int position);
 /// @}
 
+/// The one edit that made a text another: what came in for `length` characters from `start` on,
+/// both counted in characters.
+struct TextEdit {
+  std::size_t start = 0;
+  std::size_t length = 0;
+  QString inserted;
+};
+/// `caret` is where the edit left the caret in the new text.
+TextEdit editBetween(const QString& before, const QString& after, int caret);
+
 }  // namespace nautrel

@@ -78,7 +78,7 @@ void QtLooks::flushSoon() {
   if (std::exchange(waiting_, true)) return;
   QTimer::singleShot(0, this, [this] {
     waiting_ = false;
-    flush();
+    program_.desktop().atEdge([this] { flush(); });
   });
 }
 

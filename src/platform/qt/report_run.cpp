@@ -94,11 +94,13 @@ class Printout {
 }  // namespace
 
 void QtDesktop::telling(const std::function<void()>& step) {
-  try {
-    step();
-  } catch (const ReportFault& fault) {
-    showMessage(fault.text, kExclamation, kApplicationTitle);
-  }
+  atEdge([&] {
+    try {
+      step();
+    } catch (const ReportFault& fault) {
+      showMessage(fault.text, kExclamation, kApplicationTitle);
+    }
+  });
 }
 
 void QtDesktop::run(const ReportJob& job) {

@@ -4,6 +4,8 @@
 #include <QHeaderView>
 #include <algorithm>
 
+#include "platform/form.h"
+#include "platform/program.h"
 #include "platform/qt/convert.h"
 
 namespace nautrel {
@@ -35,9 +37,16 @@ class GridModel : public QAbstractTableModel {
     return parent.isValid() || grid_ == nullptr ? 0 : static_cast<int>(grid_->headings().size());
   }
   QVariant data(const QModelIndex& index, int role) const override {
-    if (grid_ == nullptr || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)) return {};
-    const auto& cell = grid_->row(index.row())[static_cast<std::size_t>(index.column())];
-    return role == Qt::DisplayRole ? onOneLine(cell) : toQt(cell);
+    if (grid_ == nullptr || !checkIndex(index, CheckIndexOption::IndexIsValid) ||
+        (role != Qt::DisplayRole && role != Qt::AccessibleTextRole))
+      return {};
+    QVariant shown;
+    // The view asks whenever it likes, also while it paints.
+    grid_->form().program().desktop().atEdge([&] {
+      const auto& cell = grid_->row(index.row())[static_cast<std::size_t>(index.column())];
+      shown = role == Qt::DisplayRole ? onOneLine(cell) : toQt(cell);
+    });
+    return shown;
   }
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
     if (role == Qt::TextAlignmentRole) return int(Qt::AlignLeft | Qt::AlignVCenter);

@@ -2,6 +2,8 @@
 
 #include <QFocusEvent>
 #include <QTextCursor>
+#include <QTextDocument>
+#include <limits>
 #include <utility>
 
 #include "platform/qt/convert.h"
@@ -36,9 +38,37 @@ Selection selection(const QPlainTextEdit& edit) {
   return {edit.textCursor().selectionStart(), edit.textCursor().selectionEnd()};
 }
 
-void tell(TextBox& box, const QString& shown, const Selection& selection) {
-  const auto start = fromQtPosition(shown, selection.first);
-  box.userSelect(start, fromQtPosition(shown, selection.second) - start);
+constexpr QChar kBreak = QChar::ParagraphSeparator;
+
+/// What the widget makes a line end of.
+bool breaksLine(QChar character) {
+  return character == '\n' || character == '\r' || character == QChar(0xFDD0) ||
+         character == QChar(0xFDD1);
+}
+
+bool isCrOfCrLf(const QString& text, qsizetype place) {
+  return text.mid(place, 2) == QStringLiteral("\r\n");
+}
+
+// CR LF are two characters of the text, and one on the screen.
+std::size_t charactersInText(const QString& text, std::size_t shown) {
+  std::size_t count = 0;
+  for (qsizetype i = 0; i < text.size() && shown > 0; ++i) {
+    if (text.at(i).isLowSurrogate()) continue;
+    ++count;
+    if (!isCrOfCrLf(text, i)) --shown;
+  }
+  return count;
+}
+
+std::size_t charactersShown(const QString& text, std::size_t inText) {
+  std::size_t count = 0;
+  for (qsizetype i = 0; i < text.size() && inText > 0; ++i) {
+    if (text.at(i).isLowSurrogate()) continue;
+    --inText;
+    if (!isCrOfCrLf(text, i)) ++count;
+  }
+  return count;
 }
 
 /// A press on a box whose rule-bound neighbour keeps the focus must not reach the box.
@@ -51,17 +81,25 @@ bool pressIsVoid(QEvent* event, const Control& control) {
 LineEditBinding::LineEditBinding(TextBox& box, QLineEdit& edit)
     : Binding(box, edit), box_(box), edit_(edit) {
   edit.setReadOnly(box.locked());
+  edit.setMaxLength(std::numeric_limits<int>::max());
   showLocked(edit, box.locked());
-  connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
-    box_.userEdit(fromQt(text), fromQtPosition(text, edit_.cursorPosition()));
-  });
+  connect(&edit, &QLineEdit::textEdited, this, &LineEditBinding::edited);
   connect(&edit, &QLineEdit::selectionChanged, this, &LineEditBinding::tellSelection);
   connect(&edit, &QLineEdit::cursorPositionChanged, this, &LineEditBinding::tellSelection);
 }
 
+void LineEditBinding::edited(const QString& text) {
+  const auto edit = editBetween(toQt(box_.text()), text, edit_.cursorPosition());
+  box_.userReplace(edit.start, edit.length, fromQt(edit.inserted));
+}
+
 // A box that loses the focus drops its selection on the screen alone.
 void LineEditBinding::tellSelection() {
-  if (edit_.hasFocus()) tell(box_, edit_.text(), selection(edit_));
+  if (!edit_.hasFocus()) return;
+  const auto shown = edit_.text();
+  const auto [start, end] = selection(edit_);
+  const auto first = fromQtPosition(shown, start);
+  box_.userSelect(first, fromQtPosition(shown, end) - first);
 }
 
 bool LineEditBinding::filter(QEvent* event) {
@@ -122,27 +160,44 @@ PlainTextBinding::PlainTextBinding(TextBox& box, QPlainTextEdit& edit)
   edit.setTabChangesFocus(true);
   showLocked(edit, box.locked());
   watch(*edit.viewport());
-  connect(&edit, &QPlainTextEdit::textChanged, this, [this] {
-    const auto text = edit_.toPlainText();
-    if (text == shown()) return;
-    box_.userEdit(fromQt(text), fromQtPosition(text, edit_.textCursor().position()));
-  });
+  connect(&edit, &QPlainTextEdit::textChanged, this, &PlainTextBinding::edited);
   connect(&edit, &QPlainTextEdit::selectionChanged, this, &PlainTextBinding::tellSelection);
   connect(&edit, &QPlainTextEdit::cursorPositionChanged, this, &PlainTextBinding::tellSelection);
 }
 
 void PlainTextBinding::tellSelection() {
-  tell(box_, edit_.toPlainText(), selection(edit_));
+  const auto text = toQt(box_.text());
+  const auto shown = edit_.document()->toRawText();
+  const auto [start, end] = selection(edit_);
+  const auto first = charactersInText(text, fromQtPosition(shown, start));
+  box_.userSelect(first, charactersInText(text, fromQtPosition(shown, end)) - first);
 }
 
 bool PlainTextBinding::filter(QEvent* event) {
   return pressIsVoid(event, box_);
 }
 
+// The widget knows one kind of line end only, and its plain text loses more than that; so of its
+// text nothing but the part that was edited goes into the model's.
+void PlainTextBinding::edited() {
+  const auto before = shown();
+  const auto after = edit_.document()->toRawText();
+  if (after == before) return;
+  auto edit = editBetween(before, after, edit_.textCursor().position());
+  const auto text = toQt(box_.text());
+  const auto start = charactersInText(text, edit.start);
+  const auto length = charactersInText(text, edit.start + edit.length) - start;
+  edit.inserted.replace(kBreak, '\n').replace(QChar(QChar::LineSeparator), '\n');
+  box_.userReplace(start, length, fromQt(edit.inserted));
+}
+
 void PlainTextBinding::pushContent() {
   const auto text = shown();
-  if (edit_.toPlainText() != text) edit_.setPlainText(text);
-  const auto wanted = selection(box_, text);
+  if (edit_.document()->toRawText() != text) edit_.setPlainText(text);
+  const auto place = [&](std::size_t characters) {
+    return toQtPosition(text, charactersShown(toQt(box_.text()), characters));
+  };
+  const Selection wanted(place(box_.SelStart()), place(box_.SelStart() + box_.SelLength()));
   if (wanted == selection(edit_)) return;
   auto cursor = edit_.textCursor();
   cursor.setPosition(wanted.first);
@@ -150,9 +205,12 @@ void PlainTextBinding::pushContent() {
   edit_.setTextCursor(cursor);
 }
 
-// The widget knows one kind of line end only; the text keeps its own until it is edited.
 QString PlainTextBinding::shown() const {
-  return toQt(box_.text()).replace("\r\n", "\n").replace('\r', '\n');
+  auto text = toQt(box_.text());
+  text.replace("\r\n", "\n");
+  for (auto& character : text)
+    if (breaksLine(character)) character = kBreak;
+  return text;
 }
 
 }  // namespace nautrel

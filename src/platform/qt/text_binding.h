@@ -18,6 +18,7 @@ class LineEditBinding : public Binding {
   void pushContent() override;
 
  private:
+  void edited(const QString& text);
   void showSelection();
   void tellSelection();
   void arrive(Qt::FocusReason reason);
@@ -42,6 +43,8 @@ class PlainTextBinding : public Binding {
   void pushContent() override;
 
  private:
+  void edited();
+  /// The text as the widget's document holds it.
   QString shown() const;
   void tellSelection();
 
