@@ -47,6 +47,9 @@ double readNumber(std::string_view text, const Locale& locale);
 std::int16_t toInt16(double number);
 std::int32_t toInt32(double number);
 
+/// To single precision. Raises 6 outside its range.
+float toSingle(double number);
+
 /// The general form: at most 15 significant digits, without an exponent as long as 15 digits
 /// before or behind the separator are enough. Raises 6 for what is no finite number, as does
 /// formatNumber().

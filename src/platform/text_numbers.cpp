@@ -243,6 +243,11 @@ std::int32_t toInt32(double number) {
   return toWhole<std::int32_t>(number);
 }
 
+float toSingle(double number) {
+  if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max())) raise(Overflow);
+  return static_cast<float>(number);
+}
+
 std::string generalText(double number, const Locale& locale) {
   const auto decimal = decimalOf(number);
   const bool plain =

@@ -54,7 +54,7 @@ void Form18::showSettings() {
       [&] { Picture1.setBackColor(toInt32(number(desktop().GetSetting("Colors", "Main")))); });
   resumeNext([&] { Combo1.setText(start("Window")); });
   resumeNext([&] { Text1.setText(start("Grafic")); });
-  if (start("Fenster") != "Ben") return;
+  if (!app_.MDIForm1().hasFreeSize()) return;
   Option2.setOn(true);
   enableSize(true);
   Label4.setCaption(start("Breite"));
@@ -104,7 +104,7 @@ void Form18::enableSize(bool enabled) {
 void Form18::Option1_Click() {
   edited();
   enableSize(false);
-  for (auto* value : {&Label4, &Label5, &Label6, &Label7}) value->setCaption("---");
+  for (auto* value : {&Label4, &Label5, &Label6, &Label7}) value->setCaption(MDIForm1::kNoSize);
 }
 
 // Answers a press alone: chosen by an arrow key, the values wait for the next resize.
@@ -131,6 +131,7 @@ void Form18::save() {
   start("Window", Combo1.text());
   if (Option1.on()) start("Fenster", "Max");
   if (Option2.on()) {
+    if (Label4.caption() == MDIForm1::kNoSize) showFrameSize();
     start("Breite", Label4.caption());
     start("Höhe", Label5.caption());
     start("Links", Label6.caption());

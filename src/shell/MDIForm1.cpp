@@ -160,12 +160,19 @@ bool MDIForm1::isSorted(int dives) const {
   return first && last && *last - *first + 1 == dives;
 }
 
+bool MDIForm1::hasFreeSize() const {
+  const auto start = [this](const char* key) { return desktop().GetSetting("Start", key); };
+  const auto isSize = [&](const char* key) { return start(key) != kNoSize; };
+  return start("Fenster") == "Ben" && isSize("Breite") && isSize("Höhe") && isSize("Links") &&
+         isSize("Oben");
+}
+
 void MDIForm1::applySize() {
+  if (!hasFreeSize()) return;
   const auto start = [this](const char* key) { return desktop().GetSetting("Start", key); };
   const auto twips = [&](const char* key) {
-    return static_cast<double>(static_cast<float>(number(start(key))));
+    return static_cast<double>(toSingle(number(start(key))));
   };
-  if (start("Fenster") != "Ben") return;
   setWindowState(WindowState::Normal);
   setWidth(twips("Breite"));
   setHeight(twips("Höhe"));

@@ -21,6 +21,11 @@ class MDIForm1 : public Form {
   using App = Nautrel;
   explicit MDIForm1(Nautrel& app);
 
+  /// What stands for a size that was never chosen.
+  static constexpr const char* kNoSize = "---";
+  /// Whether the settings give the window a size of its own.
+  bool hasFreeSize() const;
+
   void Form_Load() override;
   void Form_Resize() override;
   /// `button`: 1 left, 2 right.

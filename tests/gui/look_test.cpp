@@ -230,6 +230,13 @@ TEST_F(Look, NoBreakComesIntoOneLineAndTheCaretStaysBehindWhatCame) {
   EXPECT_EQ(term.text(), "(Blue Hole )");
   EXPECT_EQ(fromQt(typed.text()), "(Blue Hole )");
   EXPECT_EQ(typed.cursorPosition(), 11);
+  term.AddItem("reef");
+  choose(term, 0);
+  settle();
+  key(Qt::Key_Home);
+  keys("b");
+  EXPECT_EQ(fromQt(typed.text()), "breef");
+  EXPECT_EQ(typed.cursorPosition(), 1) << "also after a line was chosen";
 }
 
 TEST_F(Look, AnEditedCommentKeepsEveryOtherCharacter) {

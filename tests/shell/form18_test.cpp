@@ -160,6 +160,26 @@ TEST_F(Preferences, TheSizeFollowsAPressAndTheMainWindowButNoArrowKey) {
   EXPECT_FALSE(app->loaded(18));
 }
 
+TEST_F(Preferences, AFreeSizeThatWasNeverShownIsThePresentOne) {
+  auto& form = openStartPage();
+  frame().userResized(150, 300, 12000, 9000);
+  focus(form.Option1);
+  press(form, Key::Down);
+  ASSERT_EQ(values(form), Texts(4, "---"));
+  click(form.Command3);
+  EXPECT_EQ((Texts{setting("Start", "Fenster"), setting("Start", "Breite"),
+                   setting("Start", "Höhe"), setting("Start", "Links"), setting("Start", "Oben")}),
+            (Texts{"Ben", "12000", "9000", "150", "300"}));
+  for (const char* key : {"Breite", "Oben"}) {
+    const auto kept = setting("Start", key);
+    setting("Start", key) = "---";
+    restart();
+    EXPECT_EQ(frame().windowState(), WindowState::Maximized) << key;
+    EXPECT_TRUE(reopen().Option1.on());
+    setting("Start", key) = kept;
+  }
+}
+
 // The picture of a path that is gone stays as it is, and so does any under a colour that is none.
 TEST_F(Preferences, CancelPutsColorAndPictureBack) {
   struct Case {

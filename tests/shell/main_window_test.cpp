@@ -188,5 +188,16 @@ TEST_F(MainWindow, AFailureInsideALoadEndsTheProgramWhateverRuleTheCommandRunsUn
   EXPECT_EQ(desktop->failure()->number, DatabaseNotFound);
 }
 
+TEST_F(MainWindow, AStoredSizeBeyondSinglePrecisionOverflows) {
+  desktop->settings = {{{"Start", "Fenster"}, "Ben"},
+                       {{"Start", "Breite"}, "1e39"},
+                       {{"Start", "Höhe"}, "9000"},
+                       {{"Start", "Links"}, "0"},
+                       {{"Start", "Oben"}, "0"}};
+  start();
+  ASSERT_TRUE(desktop->failure());
+  EXPECT_EQ(desktop->failure()->number, Overflow);
+}
+
 }  // namespace
 }  // namespace nautrel

@@ -243,16 +243,21 @@ class ComboBinding : public Binding {
     const auto& lines = box_.lines();
     while (out_.count() < static_cast<int>(lines.size()))
       out_.addItem(toQt(lines[static_cast<std::size_t>(out_.count())]));
-    if (out_.currentIndex() != box_.ListIndex()) out_.setCurrentIndex(box_.ListIndex());
-    if (box_.style() == ComboBox::Style::ListOnly) return;
-    if (const auto text = toQt(box_.text()); out_.currentText() != text) rewrite(text);
+    if (box_.style() == ComboBox::Style::FreeText) return showFreeText();
+    showLine();
   }
 
  private:
+  void showLine() {
+    if (out_.currentIndex() != box_.ListIndex()) out_.setCurrentIndex(box_.ListIndex());
+  }
   // The caret keeps its distance from the end.
-  void rewrite(const QString& text) {
+  void showFreeText() {
     auto& line = *out_.lineEdit();
     const auto fromEnd = line.text().size() - line.cursorPosition();
+    showLine();
+    const auto text = toQt(box_.text());
+    if (out_.currentText() == text) return;
     out_.setEditText(text);
     line.setCursorPosition(static_cast<int>(qMax(text.size() - fromEnd, qsizetype(0))));
   }

@@ -27,8 +27,10 @@ inline long fromQt(const QColor& color) {
 
 /// Fifteen twips to the pixel of an unscaled screen.
 inline constexpr int kTwipsPerPixel = 15;
+/// What is beyond all screens is taken to the nearest measure that a window can have.
 inline int toPixels(double twips) {
-  return qRound(twips / kTwipsPerPixel);
+  constexpr double kFarthest = 16'000'000;
+  return qRound(qBound(-kFarthest, twips / kTwipsPerPixel, kFarthest));
 }
 inline double toTwips(int pixels) {
   return pixels * kTwipsPerPixel;

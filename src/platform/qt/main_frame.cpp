@@ -20,6 +20,7 @@
 #include "platform/qt/image_picture.h"
 #include "platform/qt/qt_looks.h"
 #include "platform/qt/status_panels.h"
+#include "platform/qt/window_place.h"
 #include "shell/MDIForm1.h"
 
 namespace nautrel {
@@ -282,8 +283,21 @@ void MainFrame::pushPointer() {
   wait ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
 }
 
+// A screen may be gone since the place was stored.
+void MainFrame::pullBack() {
+  QList<QRect> screens;
+  for (const auto* screen : QGuiApplication::screens()) screens << screen->availableGeometry();
+  const QRect wanted(toPixels(form_.Left()), toPixels(form_.Top()), toPixels(form_.Width()),
+                     toPixels(form_.Height()));
+  const auto place = pulledBack(wanted, screens);
+  if (place == wanted) return;
+  form_.userResized(toTwips(place.x()), toTwips(place.y()), toTwips(place.width()),
+                    toTwips(place.height()));
+}
+
 void MainFrame::show() {
   auto& frame = static_cast<FrameWindow&>(*window_);
+  if (form_.windowState() == WindowState::Normal) pullBack();
   formChanged();
   flush();
   frame.following = true;

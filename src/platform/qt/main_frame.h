@@ -66,6 +66,7 @@ class MainFrame : public FormView {
   void makeToolbar();
   void makeStatus();
   void placeWindow();
+  void pullBack();
   void pushCommands();
   void pushPointer();
 

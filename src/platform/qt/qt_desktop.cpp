@@ -22,6 +22,7 @@
 #include "platform/qt/message_box.h"
 #include "platform/qt/printing.h"
 #include "platform/qt/qt_looks.h"
+#include "platform/qt/settings_text.h"
 #include "platform/qt/system_locale.h"
 
 namespace nautrel {
@@ -94,12 +95,8 @@ bool QtDesktop::askPrinter() {
   return setUpPrinterDialog(parentWindow(), printer_);
 }
 
-// A value edited by hand may hold a comma, which the store reads as a list.
 std::string QtDesktop::readSetting(const std::string& section, const std::string& key) {
-  const auto value = settings_.value(toQt(section + "/" + key));
-  if (value.typeId() == QMetaType::QStringList)
-    return fromQt(value.toStringList().join(QStringLiteral(", ")));
-  return fromQt(value.toString());
+  return fromQt(settingText(settings_, toQt(section), toQt(key)));
 }
 
 void QtDesktop::writeSetting(const std::string& section, const std::string& key,

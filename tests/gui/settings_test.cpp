@@ -1,0 +1,60 @@
+#include <QSettings>
+
+#include "gui/gui_test.h"
+#include "platform/qt/window_place.h"
+
+namespace nautrel {
+namespace {
+
+TEST(SettingsFile, AValueWithACommaWrittenByHandComesBackAsItStands) {
+  const TemporaryFolder folder;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, toQt(folder.path()));
+  folder.write("Nautrel.conf",
+               "[Other]\nGrafic=a,b\n\n[Start]\nGrafic= /reefs/left, right,  both.jpg \n"
+               "H%F6he=9000,5\nBreite=12000\nWindow=\"a, b\"\n");
+  QtDesktop desktop;
+  EXPECT_EQ(desktop.GetSetting("Start", "Grafic"), "/reefs/left, right,  both.jpg");
+  EXPECT_EQ(desktop.GetSetting("Start", "Höhe"), "9000,5");
+  EXPECT_EQ(desktop.GetSetting("Start", "Breite"), "12000");
+  EXPECT_EQ(desktop.GetSetting("Start", "Window"), "a, b");
+  const std::string path = "C:\\dives, \"2001\"\\ä;b.jpg";
+  desktop.SaveSetting("Start", "Grafic", path);
+  EXPECT_EQ(QtDesktop().GetSetting("Start", "Grafic"), path);
+}
+
+TEST(WindowPlace, ATitleBarOutOfReachOrASizeBeyondAllScreensIsPulledBack) {
+  const QRect left(0, 0, 1280, 1024);
+  const QRect right(1280, 0, 1920, 1080);
+  const struct {
+    QRect window;
+    QList<QRect> screens;
+    QRect shown;
+  } cases[] = {{{100, 50, 800, 600}, {left}, {100, 50, 800, 600}},
+               {{1400, 50, 800, 600}, {left, right}, {1400, 50, 800, 600}},
+               {{1000, 900, 800, 600}, {left, right}, {1000, 900, 800, 600}},
+               {{1400, 50, 800, 600}, {left}, {480, 50, 800, 600}},
+               {{-900, -700, 800, 600}, {left}, {0, 0, 800, 600}},
+               {{100, 1300, 800, 600}, {left, right}, {100, 424, 800, 600}},
+               {{0, 0, 3000, 1000}, {left, right}, {0, 0, 3000, 1000}},
+               {{0, 0, 3000, 1000}, {left}, {0, 0, 1280, 1000}},
+               {{-10, -10, 9000000, 9000000}, {left, right}, {0, 0, 1280, 1024}}};
+  for (const auto& item : cases) EXPECT_EQ(pulledBack(item.window, item.screens), item.shown);
+}
+
+TEST_F(GuiTest, AMainWindowStoredFarAwayComesBackAndItsSettingsStay) {
+  desktop->settings = {{{"Start", "Fenster"}, "Ben"},
+                       {{"Start", "Breite"}, "3e38"},
+                       {{"Start", "Höhe"}, "9000"},
+                       {{"Start", "Links"}, "-3e38"},
+                       {{"Start", "Oben"}, "750000"}};
+  const auto settings = desktop->settings;
+  start();
+  const auto screen = QGuiApplication::primaryScreen()->availableGeometry();
+  const auto* shown = window(app->MDIForm1());
+  EXPECT_TRUE(screen.contains(shown->frameGeometry()));
+  EXPECT_EQ(app->MDIForm1().Left(), toTwips(shown->frameGeometry().x()));
+  EXPECT_EQ(desktop->settings, settings);
+}
+
+}  // namespace
+}  // namespace nautrel
