@@ -199,6 +199,7 @@ TEST_F(Look, PastingStaysInTheBoxAndOtherCommandsReachTheMenu) {
 
 // Two pastes in the middle of a text, and a drop.
 TEST_F(Look, NoBreakComesIntoOneLineAndTheCaretStaysBehindWhatCame) {
+  addDives(1, 2);
   auto& form = insert();
   auto& box = widget<QLineEdit>(form.Text4);
   QMimeData mime;
