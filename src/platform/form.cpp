@@ -60,13 +60,24 @@ void Form::setWindowState(WindowState state) {
   if (state == WindowState::Minimized) program_.giveWay(*this);
 }
 
+namespace {
+
+// As much of a title bar, in twips, as can be taken hold of.
+constexpr double kTitleBar = 400;
+
+}  // namespace
+
+double Form::inSight(double edge, double room) const {
+  return child_ && (edge < 0 || (room > 0 && edge > room - kTitleBar)) ? 0 : edge;
+}
+
 void Form::setLeft(double left) {
-  left_ = left;
+  left_ = inSight(left, program_.area().width);
   notifyLook();
 }
 
 void Form::setTop(double top) {
-  top_ = top;
+  top_ = inSight(top, program_.area().height);
   notifyLook();
 }
 

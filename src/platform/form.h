@@ -55,7 +55,8 @@ class Form {
   WindowState windowState() const { return state_; }
   void setWindowState(WindowState state);
 
-  /// Geometry in twips; a child's Left and Top count from the frame's client area.
+  /// Geometry in twips; a child's Left and Top count from the frame's client area. One that would
+  /// put the title bar of a child out of that area becomes 0.
   double Left() const { return left_; }
   double Top() const { return top_; }
   double Width() const { return width_; }
@@ -120,6 +121,8 @@ class Form {
   void notifyLook();
 
  private:
+  double inSight(double edge, double room) const;
+
   friend class Control;
   friend class Button;
   friend class Program;

@@ -45,6 +45,14 @@ class Program {
   const std::vector<Form*>& stack() const { return stack_; }
   std::vector<Form*> loadedForms() const;
 
+  /// The room that the main window has for its children, in twips; 0 while nobody has told it.
+  struct Area {
+    double width = 0;
+    double height = 0;
+  };
+  const Area& area() const { return area_; }
+  void setArea(const Area& area) { area_ = area; }
+
   /// Closes the child window in front.
   void userCloseWindow();
   /// Brings the next child that is not minimized to the front, in a circle.
@@ -90,6 +98,7 @@ class Program {
   Desktop& desktop_;
   Looks* looks_ = nullptr;
   int depth_ = 0;
+  Area area_;
   Form* front_ = nullptr;
   std::vector<Form*> stack_;
   std::map<int, std::unique_ptr<Form>> windows_;

@@ -195,6 +195,13 @@ void MDIForm1::Form_Resize() {
   if (shared.EinstellungenOffen && app_.Form18().Option2.on()) app_.Form18().showFrameSize();
 }
 
+void MDIForm1::userSettled() {
+  program().handle([this] {
+    const int number = std::exchange(startWindow_, 0);
+    if (auto* child = number == 0 ? nullptr : app_.ifLoaded(number)) placeInFrame(*child, *this);
+  });
+}
+
 void MDIForm1::MDIForm_MouseUp(int button) {
   if (button == 2) program().handle([this] { desktop().popupMenu(Menü6); });
 }

@@ -63,6 +63,12 @@ class MDIForm1 : public Form {
 
   /// Enables or disables the nineteen menu items and twelve toolbar buttons that need dives.
   void gateCommands(bool enabled);
+  /// Notes the window that the start opens by itself.
+  void setStartWindow(int number) { startWindow_ = number; }
+  /// The desktop has given the main window its first size after it was shown: the window of the
+  /// start takes the place that its command would give it now.
+  void userSettled();
+
   /// All menus in the order of the bar, the context menus last.
   std::vector<Menu*> menus();
 
@@ -137,6 +143,7 @@ class MDIForm1 : public Form {
   long backColor_ = kStandardColor;
   nautrel::Picture picture_;
   int mousePointer_ = 0;
+  int startWindow_ = 0;
 };
 
 /// The hourglass on the main window for the time of a block; a block that the end of the program

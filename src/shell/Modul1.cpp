@@ -54,8 +54,10 @@ void Modul1::Startfenster() {
   resumeNext([&] { LogbuchPruefen(); });
   if (LogbuchLeer) return;
   resumeNext([&] {
-    if (const int number = startWindow(app_.desktop().GetSetting("Start", "Window")))
-      app_.show(number);
+    const int number = startWindow(app_.desktop().GetSetting("Start", "Window"));
+    if (number == 0) return;
+    app_.MDIForm1().setStartWindow(number);
+    app_.show(number);
   });
 }
 

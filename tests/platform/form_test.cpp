@@ -280,6 +280,23 @@ TEST_F(FormTest, ChangingTheWindowRaisesNoFocusEventAndADisabledOneTakesNoInput)
   EXPECT_FALSE(one.Check.on());
 }
 
+TEST_F(FormTest, ATitleBarThatCodeWouldPutOutOfTheAreaStandsAtItsEdge) {
+  auto& window = shown();
+  const auto reads = [&](double assigned) {
+    window.setLeft(assigned);
+    window.setTop(assigned);
+    return std::pair{window.Left(), window.Top()};
+  };
+  EXPECT_EQ(reads(-1), (std::pair{0., 0.}));
+  EXPECT_EQ(reads(7000), (std::pair{7000., 7000.})) << "nobody has told how much room there is";
+  run.setArea({9000, 6000});
+  EXPECT_EQ(reads(7000), (std::pair{7000., 0.}));
+  EXPECT_EQ(reads(9000), (std::pair{0., 0.}));
+  window.userResized(-30, 8000, window.Width(), window.Height());
+  EXPECT_EQ((std::pair{window.Left(), window.Top()}), (std::pair{-30., 8000.}))
+      << "the user may put it where he likes";
+}
+
 TEST_F(FormTest, WhoGoesMakesRoomForTheWindowBehindWithTheFocusWhereItWasLeft) {
   auto& one = shown(1);
   auto& two = shown(2);

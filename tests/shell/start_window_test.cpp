@@ -48,6 +48,11 @@ TEST_F(StartWindow, OpensAsThePreferencesSay) {
     chooseAndRestart(setting);
     EXPECT_EQ(desktop->settings.at({"Start", "Window"}), setting);
     EXPECT_EQ(openWindows(), (Texts{"MDIForm1", window}));
+    const auto& opened = *app->activeForm();
+    app->MDIForm1().userResized(0, 0, 24000, 18000);
+    app->MDIForm1().userSettled();
+    EXPECT_EQ(opened.Left(), 12000 - opened.Width() / 2 - 90);
+    EXPECT_EQ(opened.Top(), 9000 - opened.Height() / 2 - 740);
   }
   chooseAndRestart("<no>");
   EXPECT_EQ(openWindows(), Texts{"MDIForm1"});

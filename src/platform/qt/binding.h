@@ -24,6 +24,8 @@ class Binding : public QObject {
   void push();
   /// Nothing of the widget reaches the control any more.
   virtual void release();
+  /// The desktop's font or colours are others.
+  virtual void restyle() {}
   void markDirty() { dirty_ = true; }
   bool dirty() const { return dirty_; }
 

@@ -25,7 +25,7 @@ class ChartWidget : public QWidget {
   /// tab-separated text.
   std::unique_ptr<QMimeData> copy() const;
 
-  QSize sizeHint() const override { return {560, 360}; }
+  QSize sizeHint() const override { return {700, 390}; }
   QSize minimumSizeHint() const override { return {300, 200}; }
 
  protected:

@@ -92,15 +92,23 @@ ChildWindow::ChildWindow(QtLooks& looks, Form& form)
   if (auto* frame = looks.mainFrame()) frame->area().addSubWindow(window_, window_->windowFlags());
   bindControls();
   flush();
-  // Captions that the controls have just brought in do not reach the layouts of a hidden window.
+  measure();
+}
+
+// As large as what it holds, and no larger than the room for it as far as that can shrink. Captions
+// that the controls have just brought in do not reach the layouts of a hidden window.
+void ChildWindow::measure() {
+  if (!window_ || window_->isMinimized() || window_->isMaximized()) return;
   for (auto* widget : window_->findChildren<QWidget*>()) widget->updateGeometry();
   for (auto* layout : window_->findChildren<QLayout*>()) layout->invalidate();
-  const QSize size = window_->sizeHint();
+  QSize size = window_->sizeHint();
+  if (const auto* area = window_->mdiArea(); area != nullptr && area->isVisible())
+    size = size.boundedTo(area->viewport()->size()).expandedTo(window_->minimumSizeHint());
   window_->following = true;
   giveSize(size);
   window_->following = false;
-  form.setWidth(toTwips(size.width()));
-  form.setHeight(toTwips(size.height()));
+  form().setWidth(toTwips(size.width()));
+  form().setHeight(toTwips(size.height()));
 }
 
 ChildWindow::~ChildWindow() {

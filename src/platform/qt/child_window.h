@@ -22,6 +22,7 @@ class ChildWindow : public FormView {
 
  protected:
   void pushForm() override;
+  void measure() override;
 
  private:
   void giveSize(const QSize& size);

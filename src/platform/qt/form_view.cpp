@@ -91,6 +91,11 @@ void FormView::flush() {
   if (std::exchange(formDirty_, false)) pushForm();
 }
 
+void FormView::restyle() {
+  for (const auto& binding : bindings_) binding->restyle();
+  form_.program().handle([this] { measure(); });
+}
+
 void FormView::repaintNow() {
   if (std::exchange(formDirty_, false)) pushForm();
   for (std::size_t i = 0; i < bindings_.size(); ++i) {

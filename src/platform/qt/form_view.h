@@ -39,6 +39,9 @@ class FormView : public FormLook {
   /// Forces the changed widgets to paint at once, within a running handler.
   void repaintNow();
 
+  /// Takes over another font or other colours of the desktop.
+  void restyle();
+
   virtual QWidget* root() const = 0;
 
  protected:
@@ -48,6 +51,8 @@ class FormView : public FormLook {
   /// Lets the form's timers run from now on.
   void startTimers();
   virtual void pushForm() = 0;
+  /// Gives the window the size of what it holds.
+  virtual void measure() {}
 
  private:
   void news();

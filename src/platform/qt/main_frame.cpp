@@ -42,8 +42,18 @@ class FrameWindow : public QMainWindow {
  public:
   explicit FrameWindow(MDIForm1& form) : form_(&form) {}
   void release() { form_ = nullptr; }
-  /// The size that window and frame take together once the desktop has put its frame around.
-  void fitInto(QSize outer) { outer_ = outer; }
+  /// The size that window and frame take together, when it is not maximized, once the desktop has
+  /// put its frame around.
+  void fitInto(QSize outer) {
+    outer_ = outer;
+    resize(outer);
+  }
+  /// The desktop may maximize it later than it is shown.
+  void shown() {
+    awaitsSize_ = isMaximized() && size() == outer_;
+    fit();
+    report();
+  }
   bool following = false;
 
  protected:
@@ -53,10 +63,14 @@ class FrameWindow : public QMainWindow {
   }
   void moveEvent(QMoveEvent* event) override {
     QMainWindow::moveEvent(event);
+    fit();
     report();
   }
   void resizeEvent(QResizeEvent* event) override {
     QMainWindow::resizeEvent(event);
+    fit();
+    // Sized by somebody else: that size is kept.
+    if (!following && isVisible() && !isMaximized() && size() != outer_) outer_ = QSize();
     report();
   }
   void changeEvent(QEvent* event) override {
@@ -65,21 +79,30 @@ class FrameWindow : public QMainWindow {
     form_->userState(isMinimized()   ? WindowState::Minimized
                      : isMaximized() ? WindowState::Maximized
                                      : WindowState::Normal);
+    fit();
     report();
   }
 
  private:
   void report() {
     if (form_ == nullptr || following || isMinimized() || !isVisible()) return;
-    const QSize chrome = frameGeometry().size() - size();
-    if (outer_.isValid() && !chrome.isNull()) resize(std::exchange(outer_, QSize()) - chrome);
     const QRect outer = frameGeometry();
     form_->userResized(toTwips(outer.x()), toTwips(outer.y()), toTwips(outer.width()),
                        toTwips(outer.height()));
+    if (awaitsSize_ && isMaximized() && size() != outer_) {
+      awaitsSize_ = false;
+      form_->userSettled();
+    }
+  }
+  void fit() {
+    const QSize chrome = frameGeometry().size() - size();
+    if (following || isMaximized() || size() != outer_ || chrome.isNull()) return;
+    resize(std::exchange(outer_, QSize()) - chrome);
   }
 
   MDIForm1* form_;
   QSize outer_;
+  bool awaitsSize_ = false;
 };
 
 }  // namespace
@@ -103,6 +126,11 @@ void Ground::paintEvent(QPaintEvent*) {
   QRectF target(QPointF(), size);
   target.moveCenter(QRectF(viewport()->rect()).center());
   painter.drawImage(target, *image);
+}
+
+void Ground::resizeEvent(QResizeEvent* event) {
+  QMdiArea::resizeEvent(event);
+  form_.program().setArea({toTwips(viewport()->width()), toTwips(viewport()->height())});
 }
 
 // What nobody wants of the mouse inside a child comes by here, too.
@@ -296,21 +324,17 @@ void MainFrame::pullBack() {
 }
 
 void MainFrame::show() {
+  if (window_->isVisible()) return;
   auto& frame = static_cast<FrameWindow&>(*window_);
   if (form_.windowState() == WindowState::Normal) pullBack();
   formChanged();
   flush();
   frame.following = true;
-  if (form_.windowState() == WindowState::Maximized) {
-    window_->showMaximized();
-  } else {
-    frame.fitInto({toPixels(form_.Width()), toPixels(form_.Height())});
-    window_->show();
-  }
+  frame.move(toPixels(form_.Left()), toPixels(form_.Top()));
+  frame.fitInto({toPixels(form_.Width()), toPixels(form_.Height())});
+  form_.windowState() == WindowState::Maximized ? frame.showMaximized() : frame.show();
   frame.following = false;
-  const QRect outer = window_->frameGeometry();
-  form_.userResized(toTwips(outer.x()), toTwips(outer.y()), toTwips(outer.width()),
-                    toTwips(outer.height()));
+  frame.shown();
 }
 
 void MainFrame::close() {

@@ -90,9 +90,27 @@ void QtLooks::repaintIfDue() {
   sinceRepaint_.restart();
 }
 
+namespace {
+
+bool isOfStyle(const QEvent& event) {
+  return event.type() == QEvent::ApplicationFontChange ||
+         event.type() == QEvent::ApplicationPaletteChange || event.type() == QEvent::StyleChange;
+}
+
+}  // namespace
+
+void QtLooks::restyleSoon() {
+  if (std::exchange(restyling_, true)) return;
+  QTimer::singleShot(0, this, [this] {
+    restyling_ = false;
+    for (std::size_t i = 0; i < views_.size(); ++i) views_[i]->restyle();
+  });
+}
+
 // A press anywhere on a child window brings it to the front, before the widget below the mouse
 // answers. Why a widget gets the focus is told to itself alone, just before all are told.
 bool QtLooks::eventFilter(QObject* watched, QEvent* event) {
+  if (frame_ != nullptr && watched == frame_->root() && isOfStyle(*event)) restyleSoon();
   if (event->type() == QEvent::FocusIn) focusReason_ = static_cast<QFocusEvent*>(event)->reason();
   if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType())
     if (auto* view = viewAround(static_cast<QWidget*>(watched)))

@@ -38,6 +38,7 @@ class QtLooks : public QObject, public Looks {
 
  private:
   void focusMoved(QWidget* now);
+  void restyleSoon();
   FormView* frontView() const;
 
   Program& program_;
@@ -48,6 +49,7 @@ class QtLooks : public QObject, public Looks {
   Qt::FocusReason focusReason_ = Qt::OtherFocusReason;
   bool flushing_ = false;
   bool waiting_ = false;
+  bool restyling_ = false;
 };
 
 }  // namespace nautrel

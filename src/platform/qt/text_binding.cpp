@@ -102,6 +102,10 @@ void LineEditBinding::tellSelection() {
   box_.userSelect(first, fromQtPosition(shown, end) - first);
 }
 
+void LineEditBinding::restyle() {
+  showLocked(edit_, box_.locked());
+}
+
 bool LineEditBinding::filter(QEvent* event) {
   if (event->type() == QEvent::FocusIn) arrive(static_cast<QFocusEvent*>(event)->reason());
   return pressIsVoid(event, box_) || selectedOnArrival(event);
@@ -171,6 +175,10 @@ void PlainTextBinding::tellSelection() {
   const auto [start, end] = selection(edit_);
   const auto first = charactersInText(text, fromQtPosition(shown, start));
   box_.userSelect(first, charactersInText(text, fromQtPosition(shown, end)) - first);
+}
+
+void PlainTextBinding::restyle() {
+  showLocked(edit_, box_.locked());
 }
 
 bool PlainTextBinding::filter(QEvent* event) {

@@ -12,6 +12,7 @@ namespace nautrel {
 class LineEditBinding : public Binding {
  public:
   LineEditBinding(TextBox& box, QLineEdit& edit);
+  void restyle() override;
 
  protected:
   bool filter(QEvent* event) override;
@@ -37,6 +38,7 @@ class LineEditBinding : public Binding {
 class PlainTextBinding : public Binding {
  public:
   PlainTextBinding(TextBox& box, QPlainTextEdit& edit);
+  void restyle() override;
 
  protected:
   bool filter(QEvent* event) override;
