@@ -1,3 +1,7 @@
+#include <QHelpEvent>
+#include <QLabel>
+#include <QToolTip>
+
 #include "calculators/Form21.h"
 #include "calculators/Form22.h"
 #include "gui/gui_test.h"
@@ -72,6 +76,29 @@ TEST_F(Calculators, PaintTheAirAsHighAsItStands) {
   settle();
   EXPECT_EQ(colorAt(view, frame, 2160, 2000), water);
   EXPECT_EQ(colorAt(view, frame, 2160, 1700), water);
+}
+
+TEST_F(GuiTest, AResultTooLongForItsLabelIsElidedAndToldWholeInAToolTip) {
+  auto& form = open(&MDIForm1::Menü7c, &Nautrel::Form22);
+  auto& label = widget<QLabel>(form.Label11);
+  const auto size = window(form)->size();
+  const auto text = [&] { return fromQt(QToolTip::isVisible() ? QToolTip::text() : QString()); };
+  const auto point = [&] {
+    QHelpEvent help(QEvent::ToolTip, {2, 2}, label.mapToGlobal(QPoint(2, 2)));
+    QApplication::sendEvent(&label, &help);
+  };
+  click(form.Command1);
+  settle();
+  point();
+  EXPECT_EQ(text(), "") << form.Label11.caption();
+  form.Text1.setText("9E9");
+  form.Text3.setText("9E9");
+  click(form.Command1);
+  settle();
+  EXPECT_EQ(window(form)->size(), size);
+  EXPECT_TRUE(label.parentWidget()->rect().contains(label.geometry()));
+  point();
+  EXPECT_EQ(text(), form.Label11.caption());
 }
 
 }  // namespace
