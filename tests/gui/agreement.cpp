@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QToolBar>
 
@@ -84,8 +85,15 @@ class Comparison {
     same("maximized", form.windowState() == WindowState::Maximized, root.isMaximized());
     if (const auto* child = qobject_cast<const QMdiSubWindow*>(&root))
       same("enabled", form.enabled(), child->widget()->isEnabled());
-    if (!small)
+    if (!small && !scrolls())
       same("place", place(form), root.isWindow() ? root.frameGeometry() : root.geometry());
+  }
+
+  // An area that scrolls moves its windows away from where a rule has put them.
+  bool scrolls() const {
+    const auto* frame = looks_.mainFrame();
+    return frame != nullptr && (frame->area().verticalScrollBar()->isVisible() ||
+                                frame->area().horizontalScrollBar()->isVisible());
   }
 
   void control(const Binding& binding) {
@@ -196,6 +204,8 @@ class Comparison {
   void focus() {
     const auto* active = app_.activeForm();
     const auto* has = QApplication::focusWidget();
+    // Without a window manager none may be active after a menu, and then nobody has the keyboard.
+    if (QApplication::activeWindow() == nullptr) return;
     if (QApplication::activePopupWidget() != nullptr || qobject_cast<const QMenuBar*>(has) ||
         looks_.mainFrame() == nullptr || looks_.mainFrame()->window().isMinimized())
       return;
@@ -205,7 +215,8 @@ class Comparison {
     const bool child =
         active != nullptr && active->name() != "MDIForm1" && active->name() != "Form1";
     same("window", nameOf(child ? active : nullptr), nameOf(view ? &view->form() : nullptr));
-    if (front != nullptr && front->isMinimized()) return;
+    // Minimized, or being moved by keys, the window itself has the keyboard.
+    if (front != nullptr && (front->isMinimized() || has == front)) return;
     where_ = "focus";
     const auto* around = looks_.viewAround(has);
     const auto* binding = around == nullptr ? nullptr : around->bindingAround(has);

@@ -133,19 +133,6 @@ TEST_F(Look, AClickElsewhereComesBackToADayThatIsNotValid) {
   expectFocus(form.Text6);
 }
 
-TEST_F(Look, TypingIsRewrittenUnderTheCaret) {
-  auto& form = insert();
-  mouse(form.Text9);
-  keys("12a45");
-  EXPECT_EQ(fromQt(widget<QLineEdit>(form.Text9).text()), "45");
-  key(Qt::Key_Home);
-  keys("1");
-  EXPECT_EQ(form.Text9.text(), "145");
-  EXPECT_EQ(widget<QLineEdit>(form.Text9).cursorPosition(), 1);
-  keys("9");
-  EXPECT_EQ(fromQt(widget<QLineEdit>(form.Text9).text()), "145");
-}
-
 TEST_F(Look, PagesOptionsAndCommentsAnswerMouseAndKeys) {
   auto& form = insert();
   auto* tabs = widget<QTabWidget>(form.SSTab1).tabBar();

@@ -196,16 +196,5 @@ TEST_F(SearchLook, ControlDisabledInADisabledWindowStaysSo) {
   EXPECT_TRUE(widget<QPushButton>(search.Command2).isDefault());
 }
 
-TEST_F(SearchLook, MinimizedSearchIsRestoredByItsOwnBar) {
-  addDives(1, 3);
-  auto& search = found("land");
-  const auto sizeBefore = size(search);
-  press(search.List1, 0, true);
-  qobject_cast<QMdiSubWindow*>(window(search))->showNormal();
-  settle();
-  EXPECT_EQ(search.windowState(), WindowState::Normal);
-  EXPECT_EQ(size(search), sizeBefore);
-}
-
 }  // namespace
 }  // namespace nautrel
