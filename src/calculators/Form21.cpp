@@ -13,7 +13,7 @@ Form21::Form21(Nautrel& app)
   bindButtons();
 }
 
-// The keys walk the lengths from the last box to the first, as they always did.
+// The keys walk the lengths backwards, from the button and the last box to the first.
 void Form21::arrangePages() {
   SSTab1.pageHolds(0, {&Text1, &Text2, &Text3, &Text4, &Text5, &Text6, &Text7, &Text8, &Text9,
                        &Text10, &Command1});

@@ -32,7 +32,7 @@ class Form6 : public Form {
   void Datenbank();
   /// Writes the statistic to the file chosen in CommonDialog1. Raises 75 or 76.
   void Datei();
-  /// Prints the same text with German headings. No command calls it: an older way of printing.
+  /// Prints the same text with German headings, without a template. No command calls it.
   void Drucken();
 
   /// The button of a record dive by the digit of its name. Raises 91 if there is none.

@@ -5,7 +5,8 @@
 
 namespace nautrel {
 
-/// The numbers of the run-time's failures, as the divers have always seen them.
+/// The numbers of the run-time's failures, which the message box shows: a diver asks for help by
+/// them.
 enum ErrorNumber {
   InvalidCall = 5,
   Overflow = 6,

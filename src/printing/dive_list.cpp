@@ -30,7 +30,7 @@ void writeHead(TextFile& file, const DateTime& printed, const Locale& locale) {
   file.line(std::string(kRuleLength, '='));
 }
 
-// The metres stand behind a depth in feet as they always have.
+// The metres behind a depth in feet belong to the form of the list, which other programs read.
 void writeDive(TextFile& file, const Recordset& dive, const Locale& locale) {
   const auto alone = [&](int ordinal) {
     auto value = dive.Fields(ordinal);
