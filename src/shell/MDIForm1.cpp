@@ -332,10 +332,9 @@ Hourglass::~Hourglass() {
   frame_.setMousePointer(0);
 }
 
-// 740 twips are half of what toolbar, status bar and menu take together.
 void placeInFrame(Form& child, const MDIForm1& frame) {
-  child.setLeft(frame.Width() / 2 - child.Width() / 2 - 90);
-  child.setTop(frame.Height() / 2 - child.Height() / 2 - 740);
+  child.setLeft(frame.Width() / 2 - child.Width() / 2 - kLeftOfMiddle);
+  child.setTop(frame.Height() / 2 - child.Height() / 2 - kAboveMiddle);
 }
 
 }  // namespace nautrel

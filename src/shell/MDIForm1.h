@@ -159,6 +159,11 @@ class Hourglass {
   MDIForm1& frame_;
 };
 
+/// How far left of the frame's middle and above it a child stands with its own, in twips: half of
+/// what frame, toolbar, status bar and menu take together.
+inline constexpr double kLeftOfMiddle = 90;
+inline constexpr double kAboveMiddle = 740;
+
 /// The place that every child window takes at its load, by the measures of frame and window.
 void placeInFrame(Form& child, const MDIForm1& frame);
 

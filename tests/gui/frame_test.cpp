@@ -64,7 +64,7 @@ TEST_F(FrameLook, OnASmallAreaEveryTitleBarIsInSightAndWhatCanShrinkDoes) {
     EXPECT_EQ(toPixels(form.Left()), shown.left()) << form.name();
     for (const char* shrinks : {"Form10", "Form11", "Form13"})
       if (form.name() == shrinks) {
-        EXPECT_TRUE(ground().rect().contains(QRect({0, 0}, shown.size())))
+        EXPECT_TRUE(ground().rect().contains(shown))
             << form.name() << ' ' << shown.width() << ' ' << shown.height();
       }
   });

@@ -12,6 +12,7 @@
 #include "platform/qt/icons.h"
 #include "platform/qt/main_frame.h"
 #include "platform/qt/qt_looks.h"
+#include "shell/MDIForm1.h"
 
 namespace nautrel {
 
@@ -95,6 +96,17 @@ ChildWindow::ChildWindow(QtLooks& looks, Form& form)
   measure();
 }
 
+namespace {
+
+/// The room for a child where its place, which is reckoned from the whole frame, puts it.
+QSize roomFor(const QMdiArea& area) {
+  const QSize seen = area.viewport()->size();
+  const QSize moved(toPixels(kLeftOfMiddle), toPixels(kAboveMiddle));
+  return seen.boundedTo((seen + moved) * 2 - area.window()->frameGeometry().size());
+}
+
+}  // namespace
+
 // As large as what it holds, and no larger than the room for it as far as that can shrink. Captions
 // that the controls have just brought in do not reach the layouts of a hidden window.
 void ChildWindow::measure() {
@@ -103,7 +115,7 @@ void ChildWindow::measure() {
   for (auto* layout : window_->findChildren<QLayout*>()) layout->invalidate();
   QSize size = window_->sizeHint();
   if (const auto* area = window_->mdiArea(); area != nullptr && area->isVisible())
-    size = size.boundedTo(area->viewport()->size()).expandedTo(window_->minimumSizeHint());
+    size = size.boundedTo(roomFor(*area)).expandedTo(window_->minimumSizeHint());
   window_->following = true;
   giveSize(size);
   window_->following = false;

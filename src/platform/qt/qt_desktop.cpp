@@ -42,6 +42,8 @@ QString nameFilter(const std::string& filter) {
   if (parts.size() < 2) return {};
   const auto name = parts[0].section(QStringLiteral(" ("), 0, 0);
   auto patterns = parts[1];
+  // To the toolkit "*.*" is a name with a point in it, to everyone else any name.
+  patterns.replace(QStringLiteral("*.*"), QStringLiteral("*"));
   return name + QStringLiteral(" (") + patterns.replace(';', ' ') + ')';
 }
 
