@@ -101,5 +101,21 @@ TEST_F(GuiTest, AResultTooLongForItsLabelIsElidedAndToldWholeInAToolTip) {
   EXPECT_EQ(text(), form.Label11.caption());
 }
 
+TEST(Scene, ATextTooLongForItsPlaceIsToldWholeInAToolTip) {
+  SceneView scene;
+  scene.resize(200, 100);
+  scene.setFrame({0, 0, 3000, 1500});
+  Figure note{.kind = Figure::Kind::Text, .left = 0, .top = 0, .width = 1500, .height = 300};
+  for (const bool fits : {true, false}) {
+    note.text = fits ? "33 ft" : "Depth: 123456789012345678901234567890 ft";
+    scene.setFigures({note});
+    QToolTip::hideText();
+    QHelpEvent help(QEvent::ToolTip, {2, 2}, {2, 2});
+    QApplication::sendEvent(&scene, &help);
+    EXPECT_EQ(fromQt(QToolTip::text()), fits ? "" : note.text);
+  }
+  QToolTip::hideText();
+}
+
 }  // namespace
 }  // namespace nautrel

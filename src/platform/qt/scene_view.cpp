@@ -1,6 +1,8 @@
 #include "platform/qt/scene_view.h"
 
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <algorithm>
 #include <cmath>
 
@@ -19,6 +21,10 @@ QPen penOf(const Figure& figure) {
   if (figure.kind == Figure::Kind::Line)
     return {toQt(figure.color), kPen, Qt::SolidLine, Qt::RoundCap};
   return figure.outlined ? QPen(Qt::black, kOutline) : QPen(Qt::NoPen);
+}
+
+int flagsOf(const Figure& text) {
+  return Qt::AlignTop | Qt::TextWordWrap | (text.alignRight ? Qt::AlignRight : Qt::AlignLeft);
 }
 
 // Round, even if the widget is not in proportion to the picture.
@@ -61,11 +67,28 @@ void SceneView::draw(QPainter& painter, const Figure& figure) const {
       return painter.drawLine(area.topLeft() + kPenMiddle, area.bottomRight() + kPenMiddle);
     case Figure::Kind::Text:
       painter.setPen(color);
-      painter.drawText(
-          area,
-          Qt::AlignTop | Qt::TextWordWrap | (figure.alignRight ? Qt::AlignRight : Qt::AlignLeft),
-          toQt(figure.text));
+      painter.drawText(area, flagsOf(figure), fitting(figure));
   }
+}
+
+// A text that its place does not hold is elided on one line, so that no part of a figure passes for
+// another one; the tool tip tells it whole.
+QString SceneView::fitting(const Figure& figure) const {
+  const auto text = toQt(figure.text);
+  const auto room = place(figure).toAlignedRect();
+  const auto taken = fontMetrics().boundingRect(room, flagsOf(figure), text);
+  if (taken.width() <= room.width() && taken.height() <= room.height()) return text;
+  return fontMetrics().elidedText(text, Qt::ElideRight, room.width());
+}
+
+bool SceneView::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const auto& help = *static_cast<QHelpEvent*>(event);
+  for (const auto& figure : figures_)
+    if (figure.kind == Figure::Kind::Text && place(figure).contains(help.pos()) &&
+        fitting(figure) != toQt(figure.text))
+      QToolTip::showText(help.globalPos(), toQt(figure.text), this);
+  return true;
 }
 
 void SceneView::paintEvent(QPaintEvent*) {

@@ -21,9 +21,11 @@ class SceneView : public QWidget {
   void setFigures(std::vector<Figure> figures);
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QString fitting(const Figure& text) const;
   QRectF place(const Figure& figure) const;
   void draw(QPainter& painter, const Figure& figure) const;
 
