@@ -207,7 +207,7 @@ TEST(ReportOnPaper, NumbersDatesAndHeadsAreNeverBrokenOnAnyPaper) {
       for (const char* word : {"Date", "Country", "Island", "place", "Time", "Depth", "Buddy"})
         EXPECT_EQ(words.count(word), 1) << word;
       for (const char* word : {"21.10.1990", "min", "ft", "Dominican", "Michael"})
-        EXPECT_TRUE(words.count(word) > 8 || tight) << word;
+        EXPECT_TRUE(words.count(word) > 4 || tight) << word;
       EXPECT_EQ(words.count("9999"), 2 * words.count("999.99"));
     }
 }

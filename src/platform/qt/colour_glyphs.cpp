@@ -1,11 +1,9 @@
 #include "platform/qt/colour_glyphs.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QGlyphRun>
 #include <QImage>
 #include <QPaintEngine>
 #include <QPainter>
-#include <QRawFont>
 #include <QTextBoundaryFinder>
 #include <QTextDocument>
 #include <QTextLayout>
@@ -46,15 +44,27 @@ bool mayHaveColourGlyphs(QStringView text) {
   });
 }
 
-void paintColourGlyphs(QPainter& painter, const QPointF& at, const QString& text,
-                       const QFont& font) {
-  if (!leavesColoursOut(painter) || !mayHaveColourGlyphs(text)) return;
+/// The glyphs of a line of text, from its baseline on.
+QList<QGlyphRun> shapedLine(const QString& text, const QFont& font) {
   QTextLayout layout(text, font);
   layout.beginLayout();
   const auto line = layout.createLine();
   layout.endLayout();
-  for (const auto& run : layout.glyphRuns())
-    if (hasColours(run.rawFont())) paintAsImage(painter, at - QPointF(0, line.ascent()), run);
+  auto runs = layout.glyphRuns();
+  for (auto& run : runs) {
+    auto places = run.positions();
+    for (auto& place : places) place.ry() -= line.ascent();
+    run.setPositions(places);
+    run.setBoundingRect(run.boundingRect().translated(0, -line.ascent()));
+  }
+  return runs;
+}
+
+void paintColourGlyphs(QPainter& painter, const QPointF& at, const QString& text,
+                       const QFont& font) {
+  if (!leavesColoursOut(painter) || !mayHaveColourGlyphs(text)) return;
+  for (const auto& run : shapedLine(text, font))
+    if (hasColours(run.rawFont())) paintAsImage(painter, at, run);
 }
 
 QFont twipsFont(const QTextFragment& fragment) {
@@ -84,6 +94,52 @@ void addColourGlyphs(QPainter& painter, const QTextBlock& block, const QTextFrag
 void drawPaperText(QPainter& painter, const QPointF& at, const QString& text) {
   painter.drawText(at, text);
   paintColourGlyphs(painter, at, text, painter.font());
+}
+
+PaperLines::PaperLines(const QFont& font) : font_(font), raw_(QRawFont::fromFont(font)) {
+  constexpr int kPlain = 128;
+  QString characters;
+  for (int code = 0; code < kPlain; ++code) characters += QChar(code);
+  glyphs_ = raw_.glyphIndexesForString(characters);
+  advances_ = raw_.advancesForGlyphIndexes(glyphs_);
+}
+
+void PaperLines::draw(QPainter& painter, const QPointF& at, const QString& text) const {
+  if (!leavesColoursOut(painter)) return painter.drawText(at, text);
+  for (const auto& run : shaped(text))
+    if (run.colour)
+      paintAsImage(painter, at, run.glyphs);
+    else
+      painter.drawGlyphRun(at, run.glyphs);
+}
+
+void PaperLines::drawFigure(QPainter& painter, const QPointF& at, const QString& text) const {
+  const bool plain = std::ranges::all_of(
+      text, [this](QChar character) { return character.unicode() < glyphs_.size(); });
+  if (!plain || !leavesColoursOut(painter)) return draw(painter, at, text);
+  QList<quint32> glyphs;
+  QList<QPointF> places;
+  QPointF place;
+  for (const QChar character : text) {
+    glyphs << glyphs_[character.unicode()];
+    places << place;
+    place += advances_[character.unicode()];
+  }
+  QGlyphRun run;
+  run.setRawFont(raw_);
+  run.setGlyphIndexes(glyphs);
+  run.setPositions(places);
+  painter.drawGlyphRun(at, run);
+}
+
+const std::vector<PaperLines::Run>& PaperLines::shaped(const QString& text) const {
+  constexpr qsizetype kMostKnown = 20'000;
+  if (const auto found = known_.constFind(text); found != known_.cend()) return *found;
+  if (known_.size() >= kMostKnown) known_.clear();
+  std::vector<Run> runs;
+  for (const auto& run : shapedLine(text, font_))
+    runs.push_back({run, mayHaveColourGlyphs(text) && hasColours(run.rawFont())});
+  return *known_.insert(text, std::move(runs));
 }
 
 std::vector<QTextBlock> blocksWithColourGlyphs(const QTextDocument& document) {

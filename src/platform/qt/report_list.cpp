@@ -3,7 +3,6 @@
 #include <QTextLayout>
 #include <algorithm>
 
-#include "platform/qt/colour_glyphs.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/report_style.h"
 
@@ -72,7 +71,8 @@ ReportList::ReportList(ReportFrame frame, ListLayout layout, ListCells cells,
       cells_(std::move(cells)),
       scale_(fittingScale()),
       font_(paperFont(layout_.textSize * scale_)),
-      headFont_(paperFont(layout_.textSize * scale_, kHeadWeight)) {
+      headFont_(paperFont(layout_.textSize * scale_, kHeadWeight)),
+      text_(font_) {
   placeColumns();
   wrapHeads();
   breakPages();
@@ -164,9 +164,9 @@ double ReportList::paintHeads(QPainter& painter, double top) const {
   painter.setPen(paper::kInk);
   for (std::size_t column = 0; column < columns_.size(); ++column) {
     double y = top + height - kHeadPadding / 2 * lineHeight() -
-               static_cast<double>(heads_[column].size()) * lineHeight();
+               static_cast<double>(heads_[column].size()) * lineHeight() + metrics.ascent();
     for (const auto& line : heads_[column]) {
-      paintLine(painter, line, metrics.horizontalAdvance(line), column, y);
+      drawPaperText(painter, placeOf(metrics.horizontalAdvance(line), column, y), line);
       y += lineHeight();
     }
   }
@@ -175,28 +175,28 @@ double ReportList::paintHeads(QPainter& painter, double top) const {
 
 double ReportList::paintRow(QPainter& painter, std::size_t row, double top, bool shaded) const {
   const double height = heightOf(lines_[row]);
+  const QFontMetricsF metrics(font_);
   if (shaded) painter.fillRect(QRectF(body().left(), top, body().width(), height), paper::kShade);
   for (std::size_t column = 0; column < columns_.size(); ++column) {
     const auto& cell = cells_.at(row, column);
-    double y = top + kRowPadding / 2 * lineHeight();
+    double y = top + kRowPadding / 2 * lineHeight() + metrics.ascent();
+    if (cell.text.isEmpty()) continue;
     if (fits(cell, column)) {
-      paintLine(painter, cell.text, cell.width * scale_, column, y);
+      const auto at = placeOf(cell.width * scale_, column, y);
+      cell.figure ? text_.drawFigure(painter, at, cell.text) : text_.draw(painter, at, cell.text);
       continue;
     }
     for (const auto& line : linesOf(row, column)) {
-      paintLine(painter, line, QFontMetricsF(font_).horizontalAdvance(line), column, y);
+      text_.draw(painter, placeOf(metrics.horizontalAdvance(line), column, y), line);
       y += lineHeight();
     }
   }
   return top + height;
 }
 
-void ReportList::paintLine(QPainter& painter, const QString& line, double width, std::size_t column,
-                           double top) const {
-  if (line.isEmpty()) return;
+QPointF ReportList::placeOf(double width, std::size_t column, double baseline) const {
   const auto& [left, room] = columns_[column];
-  const double x = left + indent(layout_.columns[column].alignment, room - width);
-  drawPaperText(painter, QPointF(x, top + QFontMetricsF(painter.font()).ascent()), line);
+  return {left + indent(layout_.columns[column].alignment, room - width), baseline};
 }
 
 }  // namespace nautrel

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <vector>
 
+#include "platform/qt/colour_glyphs.h"
 #include "platform/qt/report_cells.h"
 #include "platform/qt/report_frame.h"
 #include "platform/qt/report_pages.h"
@@ -41,8 +42,8 @@ class ReportList : public ReportPages {
   QStringList linesOf(std::size_t row, std::size_t column) const;
   double paintHeads(QPainter& painter, double top) const;
   double paintRow(QPainter& painter, std::size_t row, double top, bool shaded) const;
-  void paintLine(QPainter& painter, const QString& line, double width, std::size_t column,
-                 double top) const;
+  /// Where a line of that width begins in its column, on its baseline.
+  QPointF placeOf(double width, std::size_t column, double baseline) const;
 
   PageFrame frame_;
   ListLayout layout_;
@@ -50,6 +51,7 @@ class ReportList : public ReportPages {
   double scale_ = 1;  // of the text against the size that the template asks for
   QFont font_;
   QFont headFont_;
+  PaperLines text_;
   std::vector<Column> columns_;
   std::vector<QStringList> heads_;
   std::vector<int> lines_;           // of each row
