@@ -105,7 +105,9 @@ Session::Session(unsigned seed) : seed_(seed), dice_(seed) {
   settle();
 }
 
+// As in life, the windows go after the end.
 Session::~Session() {
+  app->handle([this] { desktop->end(); });
   (void)desktop->failure();
 }
 
@@ -138,7 +140,7 @@ std::vector<std::string> Session::step(unsigned number) {
     if (number > 0) act();
     settle();
     // A window manager gives the keyboard back to who had it before a menu.
-    if (QApplication::activeWindow() == nullptr && !ended())
+    if (QApplication::activePopupWidget() == nullptr && !ended())
       looks->mainFrame()->window().activateWindow();
     settle();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
