@@ -35,12 +35,16 @@ void append(std::string& text, char32_t code) {
 // Whole logbooks are searched and written to files, and most of their characters are plain: those
 // go by runs, and the runs by blocks that the machine takes at once.
 std::size_t plainUntil(std::string_view text, std::size_t byte) {
-  constexpr std::size_t kBlock = 32;
-  for (; byte + kBlock <= text.size(); byte += kBlock) {
-    unsigned char all = 0;
-    for (std::size_t i = 0; i < kBlock; ++i) all |= static_cast<unsigned char>(text[byte + i]);
-    if (all >= 0x80) break;
-  }
+  const auto skip = [&](auto block) {
+    constexpr std::size_t kBlock = block;
+    for (; byte + kBlock <= text.size(); byte += kBlock) {
+      unsigned char all = 0;
+      for (std::size_t i = 0; i < kBlock; ++i) all |= static_cast<unsigned char>(text[byte + i]);
+      if (all >= 0x80) return;
+    }
+  };
+  skip(std::integral_constant<std::size_t, 32>());
+  skip(std::integral_constant<std::size_t, 8>());
   while (byte < text.size() && static_cast<unsigned char>(text[byte]) < 0x80) ++byte;
   return byte;
 }
@@ -165,7 +169,11 @@ bool isWordCharacter(char32_t character) {
 
 std::string toCodePage(std::string_view text) {
   std::string bytes;
-  bytes.reserve(text.size());
+  appendCodePage(bytes, text);
+  return bytes;
+}
+
+void appendCodePage(std::string& bytes, std::string_view text) {
   for (std::size_t byte = 0; byte < text.size();) {
     const auto plain = plainUntil(text, byte);
     bytes += text.substr(byte, plain - byte);
@@ -175,7 +183,6 @@ std::string toCodePage(std::string_view text) {
     bytes += codePageByte(character.code);
     byte += character.bytes;
   }
-  return bytes;
 }
 
 std::string fromCodePage(std::string_view bytes) {

@@ -82,6 +82,7 @@ bool isWordCharacter(char32_t character);
 
 /// To and from the 8-bit western code page (1252). What it lacks becomes "?".
 std::string toCodePage(std::string_view text);
+void appendCodePage(std::string& bytes, std::string_view text);
 std::string fromCodePage(std::string_view bytes);
 
 }  // namespace nautrel

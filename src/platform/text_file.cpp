@@ -19,19 +19,30 @@ TextFile::TextFile(const std::string& path) {
   if (!out_) raise(FileAccess);
 }
 
+TextFile::~TextFile() {
+  flush();
+}
+
 void TextFile::print(std::string_view text) {
-  line_ += toCodePage(text);
+  appendCodePage(bytes_, text);
 }
 
 void TextFile::print(Tab tab) {
-  if (line_.size() >= tab.column) endLine();
-  line_.resize(tab.column - 1, ' ');
+  if (bytes_.size() - line_ >= tab.column) endLine();
+  bytes_.resize(line_ + tab.column - 1, ' ');
 }
 
 void TextFile::endLine() {
-  line_ += "\r\n";
-  out_ << line_;
-  line_.clear();
+  constexpr std::size_t kMuch = 64 << 10;
+  bytes_ += "\r\n";
+  line_ = bytes_.size();
+  if (line_ > kMuch) flush();
+}
+
+void TextFile::flush() {
+  out_.write(bytes_.data(), static_cast<std::streamsize>(bytes_.size()));
+  bytes_.clear();
+  line_ = 0;
 }
 
 std::string readTextFile(const std::string& path) {

@@ -18,6 +18,9 @@ class TextFile {
  public:
   /// Makes the file or empties it. Raises 76 (no such folder) or 75 (it cannot be written).
   explicit TextFile(const std::string& path);
+  ~TextFile();
+  TextFile(const TextFile&) = delete;
+  TextFile& operator=(const TextFile&) = delete;
 
   /// Writes texts and tabs, one right behind the other, and ends the line. An item that finds the
   /// line already past its column starts in that column of the next line.
@@ -31,9 +34,11 @@ class TextFile {
   void print(std::string_view text);
   void print(Tab tab);
   void endLine();
+  void flush();
 
   std::ofstream out_;
-  std::string line_;  // as it will stand in the file, one byte a character
+  std::string bytes_;     // as they will stand in the file, one a character
+  std::size_t line_ = 0;  // where the line begins in them
 };
 
 /// The text of such a file. Raises 53 if there is none.

@@ -1,7 +1,8 @@
 #include "printing/dive_list.h"
 
+#include <array>
 #include <optional>
-#include <utility>
+#include <string_view>
 
 #include "platform/errors.h"
 #include "platform/text_file.h"
@@ -30,24 +31,41 @@ void writeHead(TextFile& file, const DateTime& printed, const Locale& locale) {
   file.line(std::string(kRuleLength, '='));
 }
 
-// The metres behind a depth in feet belong to the form of the list, which other programs read.
-void writeDive(TextFile& file, const Recordset& dive, const Locale& locale) {
-  const auto alone = [&](int ordinal) {
-    auto value = dive.Fields(ordinal);
-    return value.isNull() ? std::string("Null") : std::move(value).joined(locale);
-  };
-  const auto joined = [&](int ordinal) { return dive.Fields(ordinal).joined(locale); };
-  const auto date = joined(Feld::Tag) + "." + joined(Feld::Monat) + "." + joined(Feld::Jahr);
-  file.line(alone(Feld::Nr), kLand, alone(Feld::Land), kOrt, alone(Feld::Ort), kPlatz,
-            alone(Feld::Platz), kDatum, date, kZeit, joined(Feld::Zeit) + " min", kTiefe,
-            joined(Feld::Tiefe) + " m", kBuddy, alone(Feld::Buddy));
-}
+/// Writes the lines of dives; the texts of one line are the room for the next.
+class DiveLines {
+ public:
+  DiveLines(TextFile& file, const Recordset& dives) : file_(file), dives_(dives) {}
 
-void writeDives(TextFile& file, const DiveList& list, Recordset dives, const Locale& locale) {
+  // The metres behind a depth in feet belong to the form of the list, which other programs read.
+  void write() {
+    using namespace Feld;
+    file_.line(alone(Nr), kLand, alone(Land), kOrt, alone(Ort), kPlatz, alone(Platz), kDatum,
+               joined(Tag), ".", joined(Monat), ".", joined(Jahr), kZeit, joined(Zeit), " min",
+               kTiefe, joined(Tiefe), " m", kBuddy, alone(Buddy));
+  }
+
+ private:
+  std::string_view joined(Feld::Ordinal column) {
+    auto& text = texts_[static_cast<std::size_t>(column)];
+    text.clear();
+    dives_.appendField(text, column);
+    return text;
+  }
+  std::string_view alone(Feld::Ordinal column) {
+    const auto text = joined(column);
+    return text.empty() && dives_.Fields(column).isNull() ? "Null" : text;
+  }
+
+  TextFile& file_;
+  const Recordset& dives_;
+  std::array<std::string, Feld::Buddy + 1> texts_;  // of each column
+};
+
+void writeDives(TextFile& file, const DiveList& list, Recordset dives) {
   const Value first(list.firstNumber);
   while (!dives.Eof() && dives.Fields(Feld::Nr) != first) dives.MoveNext();
-  for (int row = 0; row < list.count && !dives.Eof(); ++row, dives.MoveNext())
-    writeDive(file, dives, locale);
+  DiveLines lines(file, dives);
+  for (int row = 0; row < list.count && !dives.Eof(); ++row, dives.MoveNext()) lines.write();
 }
 
 }  // namespace
@@ -60,8 +78,7 @@ void writeDiveList(const std::string& path, const DiveList& list, Workspace& wor
   writeHead(*file, list.printed, locale);
   resumeNext([&] {
     writeDives(*file, list,
-               workspace.OpenDatabase(list.databasePath).OpenRecordset(Tabelle::Logbuch, kColumns),
-               locale);
+               workspace.OpenDatabase(list.databasePath).OpenRecordset(Tabelle::Logbuch, kColumns));
   });
 }
 
