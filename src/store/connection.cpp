@@ -158,9 +158,13 @@ void Connection::beforeWriting() {
   resumeNext([&] { Statement(*this, "PRAGMA journal_mode = WAL").step(); });
 }
 
-int Connection::rowsWritten() {
+void Connection::noteWritten() {
   const auto unsettled = unsettled_.lock();
   if (unsettled && !std::exchange(waits_, true)) unsettled->push_back(shared_from_this());
+}
+
+int Connection::rowsWritten() {
+  noteWritten();
   return sqlite3_changes(handle());
 }
 

@@ -40,8 +40,11 @@ class Connection : public std::enable_shared_from_this<Connection> {
   /// Must come before every change. Raises 3027, 3026 on a disk that was full at the opening, and
   /// what requireSameFile() raises.
   void beforeWriting();
-  /// The number of rows that the last change touched; notes that there is something to settle.
+  /// Notes that there is something to settle.
+  void noteWritten();
+  /// The number of rows that the last change touched; notes that it was written.
   int rowsWritten();
+  bool inTransaction() const { return sqlite3_get_autocommit(handle()) == 0; }
 
   /// Moves the write-ahead log into the file, both synced to the disk.
   void checkpoint();

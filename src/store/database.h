@@ -30,7 +30,7 @@ class Workspace {
   /// changes to it wait for settle() is not opened: 3051, 3024.
   Database OpenDatabase(const std::string& path);
 
-  /// Brings everything written so far into the one file and on the disk. Called when the outermost
+  /// Brings everything stored so far into the one file and on the disk. Called when the outermost
   /// handler ends and before the user is told anything. Costs nothing if nothing was written.
   /// Raises 3026 (disk full) and what OpenDatabase raises.
   void settle();
@@ -59,6 +59,7 @@ class Database {
   void Close();
 
  private:
+  friend class Transaction;
   friend class Workspace;
   explicit Database(std::shared_ptr<Connection> connection);
   std::shared_ptr<Connection> connection_;
@@ -111,8 +112,8 @@ class Recordset {
   /// A new row: flags No, text columns Null until assigned. What was pending is dropped.
   void AddNew();
   void Edit();
-  /// Stores the row as a transaction of its own; after AddNew the row that was current is current
-  /// again. Raises 3020, 3167.
+  /// Stores the row as a transaction of its own, unless a Transaction lives; after AddNew the row
+  /// that was current is current again. Raises 3020, 3167.
   void Update();
   /// Removes the row at once. The position stays on it, unusable, until a move; MoveNext then
   /// reaches the row that followed. Raises 3021, 3167.
