@@ -4,7 +4,7 @@
 #include "bench_support.h"
 #include "dives/Form5.h"
 #include "dives/Form8.h"
-#include "platform/qt/qt_looks.h"
+#include "look/frame/qt_looks.h"
 #include "quiet_desktop.h"
 #include "shell/Form1.h"
 #include "shell/MDIForm1.h"

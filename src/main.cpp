@@ -1,4 +1,4 @@
-#include "platform/qt/application.h"
+#include "look/application.h"
 
 int main(int argc, char** argv) {
   return nautrel::runApplication(argc, argv);

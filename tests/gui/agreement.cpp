@@ -16,11 +16,11 @@
 #include <QTabWidget>
 #include <QToolBar>
 
+#include "look/convert.h"
+#include "look/frame/form_view.h"
+#include "look/frame/main_frame.h"
 #include "platform/controls.h"
 #include "platform/grid.h"
-#include "platform/qt/convert.h"
-#include "platform/qt/form_view.h"
-#include "platform/qt/main_frame.h"
 #include "shell/MDIForm1.h"
 
 namespace nautrel {

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/qt_looks.h"
+#include "look/frame/qt_looks.h"
 #include "shell/Nautrel.h"
 
 namespace nautrel {

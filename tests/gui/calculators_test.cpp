@@ -5,7 +5,7 @@
 #include "calculators/Form21.h"
 #include "calculators/Form22.h"
 #include "gui/gui_test.h"
-#include "platform/qt/scene_view.h"
+#include "look/pictures/scene_view.h"
 
 namespace nautrel {
 namespace {

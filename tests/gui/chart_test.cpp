@@ -6,8 +6,8 @@
 #include <QMouseEvent>
 #include <QPolygonF>
 
-#include "platform/qt/chart_layout.h"
-#include "platform/qt/chart_widget.h"
+#include "look/charts/chart_layout.h"
+#include "look/charts/chart_widget.h"
 
 namespace nautrel {
 namespace {

@@ -10,7 +10,7 @@
 #include "evaluation/Form10.h"
 #include "evaluation/Form6.h"
 #include "gui/gui_test.h"
-#include "platform/qt/chart_widget.h"
+#include "look/charts/chart_widget.h"
 
 namespace nautrel {
 namespace {

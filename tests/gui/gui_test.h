@@ -5,11 +5,11 @@
 #include <QTest>
 #include <functional>
 
-#include "platform/qt/convert.h"
-#include "platform/qt/form_view.h"
-#include "platform/qt/main_frame.h"
-#include "platform/qt/qt_desktop.h"
-#include "platform/qt/qt_looks.h"
+#include "look/convert.h"
+#include "look/frame/form_view.h"
+#include "look/frame/main_frame.h"
+#include "look/frame/qt_looks.h"
+#include "look/system/qt_desktop.h"
 #include "support/logbook.h"
 
 namespace nautrel {

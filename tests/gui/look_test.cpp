@@ -20,7 +20,7 @@
 #include "dives/Form3.h"
 #include "dives/Form4.h"
 #include "gui/gui_test.h"
-#include "platform/qt/navigator_bar.h"
+#include "look/bindings/navigator_bar.h"
 #include "search/Form12.h"
 
 namespace nautrel {

@@ -1,4 +1,4 @@
-#include "platform/qt/pictures.h"
+#include "look/pictures/pictures.h"
 
 #include <gtest/gtest.h>
 

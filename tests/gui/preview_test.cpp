@@ -1,4 +1,4 @@
-#include "platform/qt/report_preview.h"
+#include "look/reports/report_preview.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -14,7 +14,7 @@
 #include <set>
 
 #include "gui_test.h"
-#include "platform/qt/report_pages.h"
+#include "look/reports/report_pages.h"
 #include "store/delivered.h"
 
 namespace nautrel {

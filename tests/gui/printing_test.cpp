@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "gui_test.h"
-#include "platform/qt/report_pages.h"
+#include "look/reports/report_pages.h"
 
 #ifndef Q_OS_WIN
 #include <sys/resource.h>

@@ -7,7 +7,7 @@
 #include "dives/Form4.h"
 #include "dives/Form5.h"
 #include "gui/gui_test.h"
-#include "platform/qt/table_binding.h"
+#include "look/bindings/table_binding.h"
 
 namespace nautrel {
 namespace {

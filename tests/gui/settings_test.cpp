@@ -1,7 +1,7 @@
 #include <QSettings>
 
 #include "gui/gui_test.h"
-#include "platform/qt/window_place.h"
+#include "look/frame/window_place.h"
 
 namespace nautrel {
 namespace {

@@ -1,8 +1,8 @@
-#include "platform/qt/system_locale.h"
+#include "look/system/system_locale.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/qt/convert.h"
+#include "look/convert.h"
 
 namespace nautrel {
 namespace {

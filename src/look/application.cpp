@@ -1,0 +1,68 @@
+#include "look/application.h"
+
+#include <QApplication>
+#include <memory>
+
+#include "look/convert.h"
+#include "look/frame/qt_looks.h"
+#include "look/pictures/icons.h"
+#include "look/system/message_box.h"
+#include "look/system/qt_desktop.h"
+#include "shell/Nautrel.h"
+#include "store/lock.h"
+
+// A static library's pictures come in only if they are asked for, and only from outside of any
+// namespace.
+static void loadPictures() {
+  Q_INIT_RESOURCE(assets);
+}
+
+namespace nautrel {
+namespace {
+
+constexpr int kStatusAfterFailure = 3;
+constexpr int kCritical = 16;
+constexpr int kExclamation = 48;
+
+int showFailure(const RunTimeError& failure) {
+  while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+  showMessageBox(
+      nullptr,
+      QStringLiteral("Run-time error '%1':\n\n%2").arg(failure.number).arg(toQt(failure.text)),
+      kCritical, QString::fromUtf8(kApplicationTitle));
+  return kStatusAfterFailure;
+}
+
+int refuse() {
+  showMessageBox(nullptr, QStringLiteral("This logbook is in use by another Nautrel program."),
+                 kExclamation, QString::fromUtf8(kApplicationTitle));
+  return 0;
+}
+
+}  // namespace
+
+int runApplication(int argc, char** argv) {
+  QApplication::setApplicationName(QString::fromUtf8(kApplicationTitle));
+  QApplication::setApplicationDisplayName(QString());
+  QApplication application(argc, argv);
+  loadPictures();
+  QApplication::setWindowIcon(namedIcon("nautrel"));
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  QtDesktop desktop;
+  auto nautrel = std::make_unique<Nautrel>(desktop);
+  const LogbookLock lock(nautrel->databasePath());
+  if (lock.isInUse()) return refuse();
+  QtLooks looks(*nautrel);
+  desktop.setLooks(&looks);
+  nautrel->setLooks(&looks);
+
+  nautrel->start();
+  int status = desktop.ended() ? 0 : QApplication::exec();
+  if (desktop.failure()) status = showFailure(*desktop.failure());
+  // The windows go before what shows them.
+  nautrel.reset();
+  return status;
+}
+
+}  // namespace nautrel

@@ -1,0 +1,30 @@
+#include "look/bindings/color_sample.h"
+
+#include <QPainter>
+
+namespace nautrel {
+namespace {
+
+constexpr int kFocusInset = 4;
+
+}  // namespace
+
+void ColorSample::setColor(const QColor& color) {
+  if (color_ == color) return;
+  color_ = color;
+  update();
+}
+
+void ColorSample::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(palette().color(isDown() ? QPalette::Highlight : QPalette::Dark));
+  painter.setBrush(color_);
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  if (!hasFocus()) return;
+  // A line that stands out from every colour, the one of the sample's own brightness included.
+  painter.setPen(QPen(color_.lightness() > 127 ? Qt::black : Qt::white, 1, Qt::DotLine));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(rect().adjusted(kFocusInset, kFocusInset, -kFocusInset - 1, -kFocusInset - 1));
+}
+
+}  // namespace nautrel

@@ -1,0 +1,47 @@
+#include "look/frame/window_place.h"
+
+#include <algorithm>
+
+namespace nautrel {
+namespace {
+
+constexpr int kTitleHeight = 24;
+constexpr int kLeastToGrasp = 48;  // of the title bar, in pixels
+
+bool canBeGrasped(const QRect& window, const QList<QRect>& screens) {
+  const QRect title(window.topLeft(), QSize(window.width(), kTitleHeight));
+  return std::any_of(screens.begin(), screens.end(), [&](const QRect& screen) {
+    const auto seen = screen & title;
+    return seen.width() >= std::min(kLeastToGrasp, window.width()) && seen.height() > 0;
+  });
+}
+
+int distance(const QPoint& point, const QRect& screen) {
+  const QPoint nearest(std::clamp(point.x(), screen.left(), screen.right()),
+                       std::clamp(point.y(), screen.top(), screen.bottom()));
+  return (point - nearest).manhattanLength();
+}
+
+QRect inside(QRect window, const QRect& screen) {
+  window.setSize(window.size().boundedTo(screen.size()));
+  window.moveLeft(std::clamp(window.left(), screen.left(), screen.right() + 1 - window.width()));
+  window.moveTop(std::clamp(window.top(), screen.top(), screen.bottom() + 1 - window.height()));
+  return window;
+}
+
+}  // namespace
+
+QRect pulledBack(const QRect& window, const QList<QRect>& screens) {
+  if (screens.isEmpty()) return window;
+  QRect all;
+  for (const auto& screen : screens) all |= screen;
+  const bool fits = window.width() <= all.width() && window.height() <= all.height();
+  if (fits && canBeGrasped(window, screens)) return window;
+  return inside(
+      window,
+      *std::min_element(screens.begin(), screens.end(), [&](const QRect& one, const QRect& other) {
+        return distance(window.topLeft(), one) < distance(window.topLeft(), other);
+      }));
+}
+
+}  // namespace nautrel

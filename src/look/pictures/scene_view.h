@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "look/bindings/binding.h"
+#include "platform/drawing.h"
+
+namespace nautrel {
+
+/// Paints a picture of figures, at any scale of the screen as sharp as the screen is. What reaches
+/// beyond the frame is cut off.
+class SceneView : public QWidget {
+  Q_OBJECT
+
+ public:
+  using QWidget::QWidget;
+
+  /// The part of the picture, in twips, that fills the widget.
+  void setFrame(const QRectF& frame) { frame_ = frame; }
+  void setFigures(std::vector<Figure> figures);
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString fitting(const Figure& text) const;
+  QRectF place(const Figure& figure) const;
+  void draw(QPainter& painter, const Figure& figure) const;
+
+  QRectF frame_;
+  std::vector<Figure> figures_;
+};
+
+/// A picture has one widget, named as one of its drawings, whose extent is what the widget shows.
+class SceneBinding : public Binding {
+ public:
+  SceneBinding(Drawing& frame, SceneView& view);
+  bool shows(const Control& control) const override;
+
+ protected:
+  void pushContent() override;
+
+ private:
+  Drawing& frame_;
+  SceneView& view_;
+};
+
+}  // namespace nautrel

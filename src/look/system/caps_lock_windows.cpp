@@ -1,0 +1,11 @@
+#include <windows.h>
+
+#include "look/frame/status_panels.h"
+
+namespace nautrel {
+
+bool capsLockIsOn() {
+  return (GetKeyState(VK_CAPITAL) & 1) != 0;
+}
+
+}  // namespace nautrel
