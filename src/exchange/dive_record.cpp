@@ -1,0 +1,113 @@
+#include "exchange/dive_record.h"
+
+#include <algorithm>
+
+namespace nautrel::exchange {
+namespace {
+
+constexpr DiveColumn text(std::string_view name, std::string_view label, int boxLength) {
+  return {.name = name, .label = label, .boxLength = boxLength};
+}
+
+constexpr DiveColumn number(std::string_view name, std::string_view label, std::string_view unit,
+                            int boxLength) {
+  return {.name = name,
+          .label = label,
+          .unit = unit,
+          .boxLength = boxLength,
+          .isNumber = !unit.empty()};
+}
+
+constexpr DiveColumn flag(std::string_view name, std::string_view label) {
+  return {.name = name, .label = label, .isFlag = true};
+}
+
+constexpr std::array<DiveColumn, kDiveColumns> kColumns{{
+    text("Nr", "Nr", 4),
+    text("Land", "Country", 20),
+    text("Ort", "City", 20),
+    text("Platz", "Place", 20),
+    text("Tag", "Day", 2),
+    text("Monat", "Month", 2),
+    text("Jahr", "Year", 4),
+    number("Zeit", "Duration", "min", 3),
+    number("Tiefe", "Max depth", "ft", 4),
+    text("Buddy", "Buddy", 20),
+    text("Lang", "Notes", 0),
+    flag("Salz", "Salt"),
+    flag("Süß", "Fresh"),
+    flag("Ufer", "Shore"),
+    flag("Boot", "Boat"),
+    flag("Deco", "Deco"),
+    flag("Alu", "Aluminum"),
+    flag("Stahl", "Steel"),
+    number("Liter", "Tank size", "cuft", 3),
+    number("Bars", "Start pressure", "psi", 4),
+    number("Bare", "End pressure", "psi", 4),
+    text("Wetter", "Weather", 20),
+    text("Anzug", "Suit", 20),
+    text("Höhe", "Altitude", 6),
+    number("Blei", "Weight", "lb", 3),
+    flag("Sichtg", "Good visibility"),
+    flag("Sichtm", "Medium visibility"),
+    flag("Sichts", "Poor visibility"),
+    flag("Rep", "Repetitive"),
+    text("Grafik", "Picture", 255),
+}};
+
+Value valueOf(Cell&& cell) {
+  return cell ? Value(std::move(*cell)) : Value::null();
+}
+
+Cell cellOf(Value&& value) {
+  if (value.isNull()) return {};
+  return std::move(value).joined({});
+}
+
+}  // namespace
+
+const DiveColumn& diveColumn(int ordinal) {
+  return kColumns[static_cast<std::size_t>(ordinal)];
+}
+
+DiveRecord readDive(const Recordset& dives) {
+  DiveRecord dive;
+  for (int ordinal = 0; ordinal < kDiveColumns; ++ordinal) {
+    auto value = dives.Fields(ordinal);
+    if (diveColumn(ordinal).isFlag)
+      dive.flags[ordinal] = value.isYes();
+    else
+      dive.texts[ordinal] = cellOf(std::move(value));
+  }
+  return dive;
+}
+
+void appendDive(Recordset& dives, const DiveRecord& dive) {
+  dives.AddNew();
+  for (int ordinal = 0; ordinal < kDiveColumns; ++ordinal)
+    if (diveColumn(ordinal).isFlag)
+      dives.setField(ordinal, dive.flags[ordinal]);
+    else
+      dives.setField(ordinal, valueOf(Cell(dive.texts[ordinal])));
+  dives.Update();
+}
+
+TextRow readRow(const Recordset& rows) {
+  TextRow row;
+  for (int ordinal = 0; ordinal < rows.FieldCount(); ++ordinal)
+    row.push_back(cellOf(rows.Fields(ordinal)));
+  return row;
+}
+
+void writeRow(Recordset& rows, const TextRow& row) {
+  for (int ordinal = 0; ordinal < rows.FieldCount(); ++ordinal)
+    rows.setField(ordinal, valueOf(Cell(row[ordinal])));
+  rows.Update();
+}
+
+bool isBlank(const TextRow& row) {
+  return std::all_of(row.begin(), row.end(),
+                     [](const Cell& cell) { return !cell || cell->empty(); });
+}
+
+}  // namespace nautrel::exchange

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "exchange/import_plan.h"
+
+namespace nautrel::exchange {
+
+/// The whole report as text, a line or more for each dive: line or id, new number, what became of
+/// it and what was changed. What a program wants to tell otherwise it reads from the plan.
+std::string reportText(const ImportPlan& plan);
+
+}  // namespace nautrel::exchange

@@ -1,0 +1,88 @@
+#include "exchange/output_file.h"
+
+#include <algorithm>
+#include <random>
+#include <system_error>
+
+#include "exchange/format.h"
+#include "platform/files.h"
+#include "store/lock.h"
+
+namespace nautrel::exchange {
+namespace fs = std::filesystem;
+namespace {
+
+constexpr std::size_t kMuch = 256 << 10;
+
+fs::path draftBeside(const fs::path& target) {
+  auto draft = target;
+  return draft += ".new" + std::to_string(std::random_device{}());
+}
+
+}  // namespace
+
+OutputFile::OutputFile(const std::string& target, const std::vector<std::string>& ownFiles,
+                       bool overwrite)
+    : name_("'" + target + "'"), target_(followLinks(nativePath(target))), overwrite_(overwrite) {
+  const auto isIt = [&](const std::string& own) { return sameFile(target_, nativePath(own)); };
+  if (std::any_of(ownFiles.begin(), ownFiles.end(), isIt))
+    throw Refused{name_ + " belongs to Nautrel itself. Please choose another name."};
+  refuseOverwriting();
+  draft_ = draftBeside(target_);
+  if (canBeWritten(target_)) out_.open(draft_, std::ios::binary | std::ios::trunc);
+  if (!out_.is_open()) throw Refused{name_ + " cannot be written."};
+}
+
+OutputFile::~OutputFile() {
+  if (draft_.empty()) return;
+  out_.close();
+  std::error_code ignored;
+  fs::remove(draft_, ignored);
+}
+
+void OutputFile::refuseOverwriting() const {
+  std::error_code unknown;
+  const auto status = fs::status(target_, unknown);
+  if (!fs::exists(status)) return;
+  if (!fs::is_regular_file(status)) throw Refused{name_ + " is no file that can be replaced."};
+  if (!overwrite_) throw Refused{name_ + " is there already."};
+}
+
+void OutputFile::write(std::string_view bytes) {
+  waiting_ += bytes;
+  if (waiting_.size() >= kMuch) flush();
+}
+
+void OutputFile::flush() {
+  out_.write(waiting_.data(), static_cast<std::streamsize>(waiting_.size()));
+  waiting_.clear();
+  if (!out_) refuseForLackOfRoom();
+}
+
+void OutputFile::refuseForLackOfRoom() const {
+  throw Refused{name_ + " could not be written to its end. Is the disk full?"};
+}
+
+void OutputFile::commit() {
+  flush();
+  out_.close();
+  if (!out_) refuseForLackOfRoom();
+  refuseOverwriting();
+  std::error_code failed;
+  fs::rename(draft_, target_, failed);
+  if (failed) throw Refused{name_ + " cannot be written."};
+  draft_.clear();
+}
+
+std::vector<std::string> filesOfLogbook(const std::string& logbook) {
+  std::vector<std::string> files;
+  if (auto lock = LogbookLock::fileFor(logbook); !lock.empty()) files.push_back(std::move(lock));
+  const auto real = followLinks(nativePath(logbook)).u8string();
+  for (const char* side : {"", "-wal", "-shm", "-journal"}) {
+    files.push_back(logbook + side);
+    files.push_back(std::string(real.begin(), real.end()) + side);
+  }
+  return files;
+}
+
+}  // namespace nautrel::exchange

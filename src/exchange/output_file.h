@@ -1,0 +1,42 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace nautrel::exchange {
+
+/// A file that comes into being whole or not at all: it is written under another name beside its
+/// place and moves there with commit(). Every operation raises Refused.
+class OutputFile {
+ public:
+  /// Refuses a file of the program's own, a place that cannot be written, and a file that is there
+  /// unless it may be replaced.
+  OutputFile(const std::string& target, const std::vector<std::string>& ownFiles, bool overwrite);
+  /// Without commit() nothing stays behind.
+  ~OutputFile();
+  OutputFile(const OutputFile&) = delete;
+  OutputFile& operator=(const OutputFile&) = delete;
+
+  void write(std::string_view bytes);
+  void commit();
+
+ private:
+  void refuseOverwriting() const;
+  void flush();
+  [[noreturn]] void refuseForLackOfRoom() const;
+
+  std::string name_;
+  std::filesystem::path target_;
+  bool overwrite_;
+  std::filesystem::path draft_;
+  std::ofstream out_;
+  std::string waiting_;
+};
+
+/// The logbook and what the engine and the lock keep beside it, by both its names if it is a link.
+std::vector<std::string> filesOfLogbook(const std::string& logbook);
+
+}  // namespace nautrel::exchange

@@ -1,0 +1,74 @@
+#include "exchange/plain_text.h"
+
+#include "platform/text.h"
+
+namespace nautrel::exchange {
+namespace {
+
+constexpr std::string_view kWhite = " \t\r\n";
+
+}  // namespace
+
+std::string_view trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(kWhite);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kWhite) - first + 1);
+}
+
+std::vector<std::string_view> splitAt(std::string_view text, std::string_view separator) {
+  std::vector<std::string_view> parts;
+  for (;;) {
+    const auto end = text.find(separator);
+    parts.push_back(text.substr(0, end));
+    if (end == std::string_view::npos) return parts;
+    text.remove_prefix(end + separator.size());
+  }
+}
+
+std::vector<std::string_view> linesOf(std::string_view text) {
+  std::vector<std::string_view> lines;
+  for (;;) {
+    const auto end = text.find_first_of("\r\n");
+    lines.push_back(text.substr(0, end));
+    if (end == std::string_view::npos) return lines;
+    text.remove_prefix(end + (text.substr(end, 2) == "\r\n" ? 2 : 1));
+  }
+}
+
+std::string collapsed(std::string_view text) {
+  std::string result;
+  for (text = trimmed(text); !text.empty();) {
+    const auto end = text.find_first_of(kWhite);
+    if (!result.empty()) result += ' ';
+    result += text.substr(0, end);
+    if (end == std::string_view::npos) break;
+    text = trimmed(text.substr(end));
+  }
+  return result;
+}
+
+std::string shown(std::string_view text) {
+  constexpr std::size_t kMost = 40;
+  auto line = onOneLine(text.substr(0, byteOfCharacter(text, kMost + 1)));
+  return characters(line) > kMost ? firstCharacters(line, kMost) + "..." : line;
+}
+
+std::string lowerAscii(std::string_view text) {
+  std::string lower(text);
+  for (char& letter : lower)
+    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter + ('a' - 'A'));
+  return lower;
+}
+
+bool isUtf8(std::string_view bytes) {
+  constexpr char32_t kBroken = 0xFFFD;
+  constexpr std::string_view kBrokenItself = "\xEF\xBF\xBD";
+  for (std::size_t at = 0; at < bytes.size();) {
+    const auto code = characterFrom(bytes, at);
+    if (code == kBroken && bytes.substr(at, kBrokenItself.size()) != kBrokenItself) return false;
+    at += code < 0x80 ? 1 : code < 0x800 ? 2 : code < 0x10000 ? 3 : 4;
+  }
+  return true;
+}
+
+}  // namespace nautrel::exchange
