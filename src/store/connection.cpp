@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/errors.h"
+#include "platform/files.h"
 
 namespace nautrel {
 namespace {
@@ -108,6 +109,19 @@ Connection::Connection(std::string path, std::weak_ptr<Unsettled> unsettled)
 }
 
 Connection::Connection(std::string path) : path_(std::move(path)) {}
+
+Connection Connection::toRead(std::string path) {
+  const auto file = fromUtf8(path);
+  auto log = followLinks(file);
+  log += "-wal";
+  std::error_code failed;
+  const bool mayLog = canBeWritten(file) && mayMakeFileIn(log.parent_path());
+  if (mayLog || fs::exists(log, failed) || !fs::is_regular_file(file, failed)) return {path, {}};
+  requireLogbook(path);
+  Connection made(std::move(path));
+  made.open(unchanging(made.path_), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+  return made;
+}
 
 Connection Connection::create(std::string path) {
   Connection made(std::move(path));

@@ -24,6 +24,9 @@ class Connection : public std::enable_shared_from_this<Connection> {
   /// With its first change it enters itself into `unsettled`.
   Connection(std::string path, std::weak_ptr<Unsettled> unsettled);
 
+  /// Only looks, also where nothing can be written: then the file must be one that nobody has open.
+  static Connection toRead(std::string path);
+
   /// Makes the file if it is not there.
   static Connection create(std::string path);
 
