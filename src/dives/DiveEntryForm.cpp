@@ -17,35 +17,48 @@ DiveEntryForm::DiveEntryForm(Nautrel& app, std::string name, Design design,
     : Form(app, std::move(name), std::move(design)),
       SSTab1(*this, "SSTab1",
              {"General", "Comments", differences.severalInfo, differences.linkedGraphic}),
-      Text21(*this, "Text21", {.maxLength = differences.pathLength}),
       Check7(*this, "Check7", differences.repDive),
+      Text21(*this, "Text21", {.maxLength = differences.pathLength}),
       Command1(*this, "Command1", {}),
       CommonDialog1(app.desktop(), {.title = "Link a graphic with this dive",
                                     .filter = "Graphics (*.bmp; *.dib; *.jpg; *.gif; *.wmf; *.emf)|"
                                               "*.bmp;*.jpg;*.gif;*.wmf;*.emf;*.dib"}),
       app_(app) {
   placeOnPages();
+  bindColumns();
   bindDate();
   bindNumbers();
-  bindMarks();
   Text11.GotFocus = [this] { Command1.setDefault(false); };
   Text11.LostFocus = [this] { Command1.setDefault(true); };
-  for (auto& [column, option] : optionColumns())
-    option->DblClick = [option = option] { option->setOn(false); };
   Command5.Click = [this] { browse(); };
 }
 
 void DiveEntryForm::placeOnPages() {
-  Frame1.holds({&Option1, &Option2});
-  Frame2.holds({&Option3, &Option4});
-  Frame3.holds({&Option5, &Option6, &Text17, &Text13, &Text18});
-  Frame5.holds({&Option7, &Option8, &Option9});
-  SSTab1.pageHolds(
-      0, {&Text1, &Text2, &Text3, &Text4, &Text5, &Text6, &Text7, &Text8, &Text9, &Text10});
-  SSTab1.pageHolds(1, {&Text11});
-  SSTab1.pageHolds(2, {&Frame1, &Frame2, &Frame3, &Frame5, &Text14, &Text15, &Text16, &Text19,
-                       &Check6, &Check7});
-  SSTab1.pageHolds(3, {&Text21, &Command5, &Image4});
+  SSTab1.pageHolds(2, {&Frame1, &Frame2, &Frame3, &Frame5});
+  SSTab1.pageHolds(3, {&Command5, &Image4});
+  placeColumns(*this, {{&SSTab1, 0},
+                       {&SSTab1, 1},
+                       {&SSTab1, 2},
+                       {&Frame1, 0},
+                       {&Frame2, 0},
+                       {&Frame3, 0},
+                       {&Frame5, 0},
+                       {&SSTab1, 3}});
+}
+
+// The number is the program's own. The repetitive dive is the one mark whose click is no edit.
+void DiveEntryForm::bindColumns() {
+  eachColumn(
+      *this,
+      [this](auto&, TextBox& box) {
+        if (!box.locked()) box.Change = [this] { edited(); };
+      },
+      [this](auto&, OptionButton& option) {
+        option.Click = [this] { edited(); };
+        option.DblClick = [&option] { option.setOn(false); };
+      },
+      [this](auto&, CheckBox& check) { check.Click = [this] { edited(); }; });
+  Check7.Click = nullptr;
 }
 
 void DiveEntryForm::bindDate() {
@@ -78,14 +91,6 @@ void DiveEntryForm::bindNumbers() {
   };
   Text9.LostFocus = [this] { leaveDiveTime(); };
   Text10.LostFocus = [this] { leaveDepth(); };
-}
-
-void DiveEntryForm::bindMarks() {
-  for (auto* box : {&Text2, &Text3, &Text4, &Text8, &Text11, &Text13, &Text14, &Text15, &Text16,
-                    &Text17, &Text18, &Text19, &Text21})
-    box->Change = [this] { edited(); };
-  for (auto& [column, option] : optionColumns()) option->Click = [this] { edited(); };
-  Check6.Click = [this] { edited(); };
 }
 
 void DiveEntryForm::jumpAbove(const TextBox& box, double limit, TextBox& next) {
@@ -132,14 +137,10 @@ void DiveEntryForm::leaveDepth() {
 }
 
 void DiveEntryForm::Felder() {
-  const std::pair<const TextBox*, const char*> required[] = {{&Text5, "Day - "},
-                                                             {&Text6, "Month - "},
-                                                             {&Text7, "Year - "},
-                                                             {&Text9, "Divetime - "},
-                                                             {&Text10, "Depth - "}};
   std::string missing;
-  for (const auto& [box, word] : required)
-    if (box->isEmpty()) missing += word;
+  eachColumn(*this, [&](const DiveColumn& column, const TextBox& box) {
+    if (column.required != nullptr && box.isEmpty()) missing += column.required;
+  });
   if (missing.empty()) return;
   Text12.setText("ende");
   MsgBox(missing + "could not be empty!");
@@ -153,38 +154,6 @@ void DiveEntryForm::browse() {
     Image4.setPicture(desktop().LoadPicture(Text21.text()));
   } catch (const RunTimeError&) {
   }
-}
-
-std::array<DiveEntryForm::TextColumn, 17> DiveEntryForm::textColumns() {
-  return {{{"Land", &Text2},
-           {"Ort", &Text3},
-           {"Platz", &Text4},
-           {"Tag", &Text5},
-           {"Monat", &Text6},
-           {"Jahr", &Text7},
-           {"Buddy", &Text8},
-           {"Zeit", &Text9},
-           {"Tiefe", &Text10},
-           {"Lang", &Text11},
-           {"Liter", &Text17},
-           {"Bars", &Text13},
-           {"Bare", &Text18},
-           {"Wetter", &Text14},
-           {"Anzug", &Text15},
-           {"Höhe", &Text16},
-           {"Blei", &Text19}}};
-}
-
-std::array<DiveEntryForm::OptionColumn, 9> DiveEntryForm::optionColumns() {
-  return {{{"Salz", &Option1},
-           {"Süß", &Option2},
-           {"Ufer", &Option3},
-           {"Boot", &Option4},
-           {"Alu", &Option5},
-           {"Stahl", &Option6},
-           {"Sichtg", &Option7},
-           {"Sichtm", &Option8},
-           {"Sichts", &Option9}}};
 }
 
 }  // namespace nautrel

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <array>
 #include <string>
-#include <utility>
 
+#include "dives/dive_columns.h"
 #include "platform/controls.h"
 #include "platform/form.h"
 
@@ -28,7 +27,6 @@ class DiveEntryForm : public Form {
   void Felder();
 
   TabStrip SSTab1;
-  TextBox Text1{*this, "Text1", {.text = "1", .maxLength = 4, .locked = true}};
   TextBox Text2{*this, "Text2", {.maxLength = 20}};
   TextBox Text3{*this, "Text3", {.maxLength = 20}};
   TextBox Text4{*this, "Text4", {.maxLength = 20}};
@@ -38,57 +36,49 @@ class DiveEntryForm : public Form {
   TextBox Text8{*this, "Text8", {.maxLength = 20}};
   TextBox Text9{*this, "Text9", {.maxLength = 3}};
   TextBox Text10{*this, "Text10", {.maxLength = 4}};
+  TextBox Text1{*this, "Text1", {.text = "1", .maxLength = 4, .locked = true}};
   TextBox Text11{*this, "Text11", {.multiLine = true}};
-  TextBox Text12{*this, "Text12", {.visible = false}};
-  TextBox Text13{*this, "Text13", {.maxLength = 4}};
-  TextBox Text14{*this, "Text14", {.maxLength = 20}};
-  TextBox Text15{*this, "Text15", {.maxLength = 20}};
-  TextBox Text16{*this, "Text16", {.maxLength = 6}};
-  TextBox Text17{*this, "Text17", {.maxLength = 3}};
-  TextBox Text18{*this, "Text18", {.maxLength = 4}};
-  TextBox Text19{*this, "Text19", {.maxLength = 3}};
-  TextBox Text20{*this, "Text20", {.visible = false}};
-  TextBox Text21;
-  Frame Frame1{*this, "Frame1"};
-  Frame Frame2{*this, "Frame2"};
-  Frame Frame3{*this, "Frame3", "Tank"};
-  Frame Frame5{*this, "Frame5", "View"};
   OptionButton Option1{*this, "Option1", "Saltwater"};
   OptionButton Option2{*this, "Option2", "Sweet wat."};
   OptionButton Option3{*this, "Option3", "from shore"};
   OptionButton Option4{*this, "Option4", "from boat"};
+  CheckBox Check6{*this, "Check6", "de&co-stop"};
+  CheckBox Check7;
+  TextBox Text14{*this, "Text14", {.maxLength = 20}};
+  TextBox Text15{*this, "Text15", {.maxLength = 20}};
+  TextBox Text16{*this, "Text16", {.maxLength = 6}};
+  TextBox Text19{*this, "Text19", {.maxLength = 3}};
   OptionButton Option5{*this, "Option5", "&Aluminum"};
   OptionButton Option6{*this, "Option6", "&Steel"};
+  TextBox Text17{*this, "Text17", {.maxLength = 3}};
+  TextBox Text13{*this, "Text13", {.maxLength = 4}};
+  TextBox Text18{*this, "Text18", {.maxLength = 4}};
   OptionButton Option7{*this, "Option7"};
   OptionButton Option8{*this, "Option8"};
   OptionButton Option9{*this, "Option9"};
-  CheckBox Check6{*this, "Check6", "de&co-stop"};
-  CheckBox Check7;
-  Image Image4{*this, "Image4"};
-  Button Command1;
+  TextBox Text21;
   Button Command5{*this, "Command5", "Browse"};
+  Button Command1;
+  Frame Frame1{*this, "Frame1"};
+  Frame Frame2{*this, "Frame2"};
+  Frame Frame3{*this, "Frame3", "Tank"};
+  Frame Frame5{*this, "Frame5", "View"};
+  Image Image4{*this, "Image4"};
+  TextBox Text12{*this, "Text12", {.visible = false}};
+  TextBox Text20{*this, "Text20", {.visible = false}};
   CommonDialog CommonDialog1;
 
  protected:
-  using TextColumn = std::pair<const char*, TextBox*>;
-  using OptionColumn = std::pair<const char*, OptionButton*>;
-
-  /// The boxes and options by the columns they are stored in; `Nr` and `Grafik` are the windows'
-  /// own matter.
-  std::array<TextColumn, 17> textColumns();
-  std::array<OptionColumn, 9> optionColumns();
-
-  /// After the rule of a box has run, and after a click on an option or on the deco-stop box.
+  /// After the rule of a box has run, and after a click on an option or a check box.
   virtual void edited() {}
-
-  void placeOnPages();
 
   Nautrel& app_;
 
  private:
+  void placeOnPages();
+  void bindColumns();
   void bindDate();
   void bindNumbers();
-  void bindMarks();
   void jumpAbove(const TextBox& box, double limit, TextBox& next);
   void leaveDatePart(TextBox& box, double last, const char* message);
   void leaveYear();

@@ -22,11 +22,8 @@ Form2::Form2(Nautrel& app)
   Command1.setDefault(true);
   Command3.setCancel();
   SSTab1.pageHolds(0, {&Check1, &Check2, &Check3, &Check4, &Check5, &Command4});
-  setTabOrder({&Text2,    &Text3,   &Text4,   &Text5,   &Text6,   &Text7,    &Text8,    &Text9,
-               &Text10,   &Text11,  &Option1, &Option2, &Option3, &Option4,  &Check6,   &Check7,
-               &Text14,   &Text15,  &Text16,  &Text19,  &Option5, &Option6,  &Text17,   &Text13,
-               &Text18,   &Option7, &Option8, &Option9, &Text21,  &Command5, &Command1, &Command2,
-               &Command3, &Check2,  &Check3,  &Check4,  &Check1,  &Check5,   &Command4, &SSTab1});
+  setTabEnd({&Command1, &Command2, &Command3, &Check2, &Check3, &Check4, &Check1, &Check5,
+             &Command4, &SSTab1, &Text1});
   Text1.setTabStop(false);
   Command1.Click = [this] { Command1_Click(); };
   Command2.Click = [this] { Command2_Click(); };
@@ -60,13 +57,12 @@ void Form2::Form_Load() {
 void Form2::Speichern() {
   auto rows = app_.workspace().OpenDatabase(app_.databasePath()).OpenRecordset("Logbuch");
   rows.AddNew();
-  rows.setField("Nr", Text1.text());
-  for (const auto& [column, box] : textColumns()) rows.setField(column, box->text());
-  for (const auto& [column, option] : optionColumns())
-    if (option->on()) rows.setField(column, true);
-  if (Check6.on()) rows.setField("Deco", true);
-  if (Check7.on()) rows.setField("Rep", true);
-  rows.setField("Grafik", Text21.text());
+  eachColumn(
+      *this,
+      [&](const DiveColumn& column, TextBox& box) { rows.setField(column.ordinal, box.text()); },
+      [&](const DiveColumn& column, auto& flag) {
+        if (flag.on()) rows.setField(column.ordinal, true);
+      });
   rows.Update();
   rows.Close();
   app_.Modul1().StatusAktualisieren();
@@ -89,17 +85,13 @@ void Form2::Command1_Click() {
   Text20.setText("");
 }
 
-// What is not named here goes on to the next dive on purpose: options, tank, weather, suit, weight
-// and the picture on show.
+// The picture stays on show though its path is emptied.
 void Form2::prepareNextDive() {
   Text1.setText(text(number(Text1.text()) + 1));
-  for (auto* box : {&Text9, &Text10, &Text11, &Text21}) box->setText("");
-  if (!Check2.on()) Text2.setText("");
-  if (!Check3.on()) Text3.setText("");
-  if (!Check4.on()) Text4.setText("");
-  if (!Check5.on()) Text8.setText("");
-  if (!Check1.on())
-    for (auto* box : {&Text5, &Text6, &Text7}) box->setText("");
+  eachColumn(*this, [this](const DiveColumn& column, TextBox& box) {
+    const auto& [kept, mark] = column.next;
+    if (mark != nullptr ? !(this->*mark).on() : !kept) box.setText("");
+  });
 }
 
 // With a required box empty the window closes all the same and the input is dropped.

@@ -1,7 +1,6 @@
 #include "dives/Form3.h"
 
-#include <utility>
-
+#include "dives/dive_columns.h"
 #include "dives/jump.h"
 #include "platform/errors.h"
 #include "platform/text.h"
@@ -17,15 +16,18 @@ Form3::Form3(Nautrel& app)
     : Form(app, "Form3", {.caption = "View Logbook", .width = 8400, .height = 6300}),
       Data1(*this, "Data1", app.workspace(), "Logbuch"),
       app_(app) {
-  Frame3.holds({&Label11, &Text17, &Text13, &Text18});
-  Frame5.holds({&Image1, &Image2, &Image3});
-  SSTab1.pageHolds(0, {&Text1, &Text2, &Text3, &Text4, &Text5, &Text8, &Text9, &Text10, &List1});
-  SSTab1.pageHolds(1, {&Text11});
-  SSTab1.pageHolds(2, {&Text14, &Text15, &Text16, &Text19, &Label21, &Label24, &Label25, &Label30,
-                       &Frame3, &Frame5});
-  SSTab1.pageHolds(3, {&Text12, &Image4, &Image5});
-  setTabOrder({&List1, &Command1, &Command3, &SSTab1, &Text1, &Text2, &Text3, &Text4, &Text5,
-               &Text8, &Text9, &Text10});
+  SSTab1.pageHolds(0, {&List1});
+  SSTab1.pageHolds(2, {&Frame3, &Frame5});
+  SSTab1.pageHolds(3, {&Image4, &Image5});
+  placeColumns(*this, {{&SSTab1, 0},
+                       {&SSTab1, 1},
+                       {&SSTab1, 2},
+                       {&SSTab1, 2},
+                       {&SSTab1, 2},
+                       {&Frame3, 0},
+                       {&Frame5, 0},
+                       {&SSTab1, 3}});
+  setTabOrder({&List1, &Command1, &Command3, &SSTab1});
   Command3.setCancel();
   Data1.Reposition = [this] { Data1_Reposition(); };
   Data1.MouseDown = [this] { Data1_MouseDown(); };
@@ -50,20 +52,17 @@ void Form3::fillList() {
 }
 
 void Form3::Leeren() {
-  for (auto* label : {&Label21, &Label24, &Label25, &Label11, &Label30}) label->setCaption("");
-  for (auto* image : {&Image1, &Image2, &Image3}) image->setVisible(false);
+  eachColumn(
+      *this, [](auto&, TextBox& box) { box.setText(""); },
+      [](auto&, Label& word) { word.setCaption(""); },
+      [](auto&, Image& image) { image.setVisible(false); });
   Image4.setPicture(Image5.picture());
-  for (auto* box : {&Text1, &Text2, &Text3, &Text4, &Text5, &Text8, &Text9, &Text10, &Text11,
-                    &Text12, &Text13, &Text14, &Text15, &Text16, &Text17, &Text18, &Text19})
-    box->setText("");
 }
 
 void Form3::Data1_Reposition() {
   auto& shared = app_.Modul1();
   Leeren();
-  showTexts();
-  showFlags();
-  resumeNext([&] { Text12.setText(Data1.Recordset().Fields(Feld::Grafik).text(locale())); });
+  showRow();
   resumeNext([&] {
     Image4.setPicture(desktop().LoadPicture(Data1.Recordset().Fields(Feld::Grafik).text(locale())));
   });
@@ -82,49 +81,26 @@ void Form3::Data1_Reposition() {
   shared.ListeNachziehen = false;
 }
 
-void Form3::showTexts() {
-  auto& rows = Data1.Recordset();
-  const auto show = [&](TextBox& box, int ordinal) {
-    resumeNext([&] { box.setText(rows.Fields(ordinal).text(locale())); });
-  };
-  show(Text1, Feld::Nr);
-  show(Text2, Feld::Land);
-  show(Text3, Feld::Ort);
-  show(Text4, Feld::Platz);
-  resumeNext([&] {
-    Text5.setText(rows.Fields(Feld::Tag).joined(locale()) + "." +
-                  rows.Fields(Feld::Monat).joined(locale()) + "." +
-                  rows.Fields(Feld::Jahr).joined(locale()));
-  });
-  show(Text8, Feld::Buddy);
-  show(Text9, Feld::Zeit);
-  show(Text10, Feld::Tiefe);
-  show(Text11, Feld::Lang);
-  show(Text13, Feld::Bars);
-  show(Text14, Feld::Wetter);
-  show(Text15, Feld::Anzug);
-  show(Text16, Feld::Höhe);
-  show(Text17, Feld::Liter);
-  show(Text18, Feld::Bare);
-  show(Text19, Feld::Blei);
-}
-
 // Of a pair that is Yes both ways the second word stands, since it is written last.
-void Form3::showFlags() {
-  auto& rows = Data1.Recordset();
-  const std::tuple<int, Label*, const char*> words[] = {
-      {Feld::Salz, &Label21, "Saltwater"},   {Feld::Süß, &Label21, "Sweet water"},
-      {Feld::Ufer, &Label24, "from shore"},  {Feld::Boot, &Label24, "from boat"},
-      {Feld::Deco, &Label25, "Deco-stop"},   {Feld::Alu, &Label11, "Aluminum"},
-      {Feld::Stahl, &Label11, "Steel tank"}, {Feld::Rep, &Label30, "Rep.-dive"}};
-  for (const auto& [ordinal, label, word] : words)
-    if (trueOrFails([&, ordinal = ordinal] { return rows.Fields(ordinal).isYes(); }))
-      label->setCaption(word);
-  const std::pair<int, Image*> pictures[] = {
-      {Feld::Sichtg, &Image1}, {Feld::Sichtm, &Image2}, {Feld::Sichts, &Image3}};
-  for (const auto& [ordinal, image] : pictures)
-    if (trueOrFails([&, ordinal = ordinal] { return rows.Fields(ordinal).isYes(); }))
-      image->setVisible(true);
+void Form3::showRow() {
+  const auto& dive = Data1.Recordset();
+  const auto isYes = [&](const DiveColumn& flag) {
+    return trueOrFails([&] { return dive.Fields(flag.ordinal).isYes(); });
+  };
+  eachColumn(
+      *this,
+      [&](const DiveColumn& column, TextBox& box) {
+        resumeNext([&] {
+          box.setText(&box == &Text5 ? joinedDate(dive, locale())
+                                     : dive.Fields(column.ordinal).text(locale()));
+        });
+      },
+      [&](const DiveColumn& flag, Label& label) {
+        if (isYes(flag)) label.setCaption(flag.words.view);
+      },
+      [&](const DiveColumn& flag, Image& image) {
+        if (isYes(flag)) image.setVisible(true);
+      });
 }
 
 void Form3::Data1_MouseDown() {

@@ -65,8 +65,7 @@ class Form3 : public Form {
 
  private:
   void fillList();
-  void showTexts();
-  void showFlags();
+  void showRow();
   void selectByCount();
   void selectIfShown(int line);
 

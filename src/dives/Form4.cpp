@@ -21,11 +21,7 @@ Form4::Form4(Nautrel& app)
   Command1.setDefault(true);
   Command3.setCancel();
   SSTab1.pageHolds(3, {&Image5});
-  setTabOrder({&Text2,  &Text3,    &Text4,    &Text5,    &Text6,    &Text7,   &Text8,   &Text9,
-               &Text10, &Text1,    &Text11,   &Frame1,   &Option1,  &Option2, &Option3, &Option4,
-               &Check6, &Check7,   &Text14,   &Text15,   &Text16,   &Text19,  &Option5, &Option6,
-               &Text17, &Text13,   &Text18,   &Option7,  &Option8,  &Option9, &Text21,  &Command5,
-               &Data1,  &Command4, &Command1, &Command2, &Command3, &SSTab1});
+  setTabEnd({&Data1, &Command4, &Command1, &Command2, &Command3, &SSTab1});
   selectTextOnEntry();
   Data1.Reposition = [this] { Data1_Reposition(); };
   Command1.Click = [this] { Command1_Click(); };
@@ -35,13 +31,13 @@ Form4::Form4(Nautrel& app)
 }
 
 void Form4::selectTextOnEntry() {
-  for (auto* box :
-       {&Text2, &Text3, &Text4, &Text5, &Text6, &Text7, &Text8, &Text9, &Text10, &Text11, &Text13,
-        &Text14, &Text15, &Text16, &Text17, &Text18, &Text19, &Text21})
-    box->GotFocus = [box, before = box->GotFocus] {
+  eachColumn(*this, [](auto&, TextBox& box) {
+    if (box.locked()) return;
+    box.GotFocus = [&box, before = box.GotFocus] {
       raiseEvent(before);
-      box->selectAll();
+      box.selectAll();
     };
+  });
 }
 
 void Form4::Form_Load() {
@@ -51,13 +47,10 @@ void Form4::Form_Load() {
 }
 
 void Form4::Leeren() {
-  for (auto& [column, option] : optionColumns()) option->setOn(false);
-  for (auto* check : {&Check6, &Check7}) check->setOn(false);
+  eachColumn(
+      *this, [](auto&, TextBox& box) { box.setText(""); },
+      [](auto&, auto& flag) { flag.setOn(false); });
   Image4.setPicture(Image5.picture());
-  for (auto* box :
-       {&Text1, &Text2, &Text3, &Text4, &Text5, &Text6, &Text7, &Text8, &Text9, &Text10, &Text11,
-        &Text13, &Text14, &Text15, &Text16, &Text17, &Text18, &Text19, &Text21})
-    box->setText("");
 }
 
 // The row runs through the rules of the boxes, as typing does.
@@ -73,52 +66,25 @@ void Form4::Data1_Reposition() {
 
 void Form4::showRow() {
   const auto& dive = Data1.Recordset();
-  const auto fill = [&](TextBox& box, int column) {
-    resumeNext([&] { box.setText(dive.Fields(column).text(locale())); });
-  };
-  const auto mark = [&](auto& control, int column) {
-    if (trueOrFails([&] { return dive.Fields(column).isYes(); })) control.setOn(true);
-  };
-  fill(Text1, Feld::Nr);
-  fill(Text2, Feld::Land);
-  fill(Text3, Feld::Ort);
-  fill(Text4, Feld::Platz);
-  fill(Text5, Feld::Tag);
-  fill(Text6, Feld::Monat);
-  fill(Text7, Feld::Jahr);
-  fill(Text8, Feld::Buddy);
-  fill(Text9, Feld::Zeit);
-  fill(Text10, Feld::Tiefe);
-  fill(Text11, Feld::Lang);
-  fill(Text13, Feld::Bars);
-  fill(Text14, Feld::Wetter);
-  fill(Text15, Feld::Anzug);
-  fill(Text16, Feld::Höhe);
-  fill(Text17, Feld::Liter);
-  fill(Text18, Feld::Bare);
-  fill(Text19, Feld::Blei);
-  mark(Option1, Feld::Salz);
-  mark(Option2, Feld::Süß);
-  mark(Option3, Feld::Ufer);
-  mark(Option4, Feld::Boot);
-  mark(Check6, Feld::Deco);
-  mark(Option5, Feld::Alu);
-  mark(Option6, Feld::Stahl);
-  mark(Option7, Feld::Sichtg);
-  mark(Option8, Feld::Sichtm);
-  mark(Option9, Feld::Sichts);
-  mark(Check7, Feld::Rep);
-  fill(Text21, Feld::Grafik);
+  eachColumn(
+      *this,
+      [&](const DiveColumn& column, TextBox& box) {
+        resumeNext([&] { box.setText(dive.Fields(column.ordinal).text(locale())); });
+      },
+      [&](const DiveColumn& column, auto& flag) {
+        if (trueOrFails([&] { return dive.Fields(column.ordinal).isYes(); })) flag.setOn(true);
+      });
 }
 
 void Form4::Speichern() {
   auto& dive = Data1.Recordset();
   dive.Edit();
-  for (const auto& [column, box] : textColumns()) dive.setField(column, box->text());
-  dive.setField("Grafik", Text21.text());
-  for (const auto& [column, option] : optionColumns()) dive.setField(column, option->on());
-  dive.setField("Deco", Check6.on());
-  dive.setField("Rep", Check7.on());
+  eachColumn(
+      *this,
+      [&](const DiveColumn& column, TextBox& box) {
+        if (column.ordinal != Feld::Nr) dive.setField(column.ordinal, box.text());
+      },
+      [&](const DiveColumn& column, auto& flag) { dive.setField(column.ordinal, flag.on()); });
   dive.Update();
 }
 

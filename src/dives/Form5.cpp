@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "dives/dive_columns.h"
 #include "dives/jump.h"
 #include "platform/errors.h"
 #include "search/return_to_search.h"
@@ -89,11 +90,7 @@ void Form5::Data1_Reposition() {
   show(Text2, Feld::Land);
   show(Text3, Feld::Ort);
   show(Text4, Feld::Platz);
-  resumeNext([&] {
-    Text5.setText(dive.Fields(Feld::Tag).joined(locale()) + "." +
-                  dive.Fields(Feld::Monat).joined(locale()) + "." +
-                  dive.Fields(Feld::Jahr).joined(locale()));
-  });
+  resumeNext([&] { Text5.setText(joinedDate(dive, locale())); });
   show(Text8, Feld::Buddy);
 }
 

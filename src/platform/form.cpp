@@ -114,6 +114,13 @@ void Form::setTabOrder(std::initializer_list<Control*> order) {
   tabOrder_ = std::move(ordered);
 }
 
+void Form::setTabEnd(std::initializer_list<Control*> last) {
+  for (auto* control : last) {
+    std::erase(tabOrder_, control);
+    tabOrder_.push_back(control);
+  }
+}
+
 bool Form::wantsEnter() const {
   const auto* box = dynamic_cast<TextBox*>(active_);
   return default_ == nullptr && box != nullptr && box->multiLine();

@@ -106,6 +106,8 @@ class Form {
  protected:
   /// The order of the Tab key. Without it, it is the order of declaration.
   void setTabOrder(std::initializer_list<Control*> order);
+  /// Moves these to the end of it.
+  void setTabEnd(std::initializer_list<Control*> last);
 
   /// Shorthands of the windows for the door and the locale.
   /// @{

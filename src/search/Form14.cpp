@@ -1,5 +1,6 @@
 #include "search/Form14.h"
 
+#include "dives/dive_columns.h"
 #include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
 #include "shell/Nautrel.h"
@@ -22,12 +23,6 @@ constexpr NumberColumn kColumns[] = {
     {Feld::Bare, &Form14::Check8},  {Feld::Liter, &Form14::Check9}, {Feld::Höhe, &Form14::Check10},
     {Feld::Blei, &Form14::Check11}, {kDate, &Form14::Check6},
 };
-
-/// As its three columns join it: "05.03.2001".
-std::string joinedDate(const Recordset& row, const Locale& locale) {
-  return row.Fields(Feld::Tag).joined(locale) + "." + row.Fields(Feld::Monat).joined(locale) + "." +
-         row.Fields(Feld::Jahr).joined(locale);
-}
 
 }  // namespace
 

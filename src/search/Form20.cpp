@@ -1,32 +1,11 @@
 #include "search/Form20.h"
 
+#include "dives/dive_columns.h"
 #include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
 #include "shell/Nautrel.h"
-#include "store/contract.h"
 
 namespace nautrel {
-namespace {
-
-struct FlagWord {
-  int ordinal;
-  const char* word;
-};
-
-constexpr int kBeforeDate[] = {Feld::Nr, Feld::Land, Feld::Ort, Feld::Platz};
-constexpr int kBehindDate[] = {Feld::Buddy, Feld::Zeit,   Feld::Tiefe, Feld::Lang,
-                               Feld::Bars,  Feld::Wetter, Feld::Anzug, Feld::Höhe,
-                               Feld::Liter, Feld::Bare,   Feld::Blei};
-constexpr FlagWord kFlagWords[] = {
-    {Feld::Salz, "Salzwasser"},       {Feld::Süß, "Süßwasser"},
-    {Feld::Ufer, "vom Ufer"},         {Feld::Boot, "vom Boot"},
-    {Feld::Deco, "Deco-Stop"},        {Feld::Alu, "Aluflasche"},
-    {Feld::Stahl, "Stahlflasche"},    {Feld::Sichtg, "gute Sicht"},
-    {Feld::Sichtm, "mittlere Sicht"}, {Feld::Sichts, "schlechte Sicht"},
-    {Feld::Rep, "Rep.-TG"},
-};
-
-}  // namespace
 
 Form20::Form20(Nautrel& app)
     : TermSearchForm(app, "Form20", {.caption = "Full search", .width = 8100, .height = 4800},
@@ -61,18 +40,17 @@ void Form20::Command1_Click() {
 void Form20::writeRecord(const Recordset& row) {
   auto text = RichTextBox1.takeText();
   text.clear();
-  const auto add = [&](int ordinal, const char* behind = " ") {
+  for (const auto& column : diveColumns()) {
+    const auto ordinal = column.ordinal;
+    if (const auto* word = column.words.search) {
+      if (row.Fields(ordinal).isYes()) text.append(word) += ' ';
+      continue;
+    }
     row.appendField(text, ordinal);
-    text += behind;
-  };
-  for (const int ordinal : kBeforeDate) add(ordinal);
-  add(Feld::Tag, ".");
-  add(Feld::Monat, ".");
-  add(Feld::Jahr, "  ");
-  for (const int ordinal : kBehindDate) add(ordinal);
-  for (const auto& [ordinal, word] : kFlagWords)
-    if (row.Fields(ordinal).isYes()) text.append(word) += ' ';
-  add(Feld::Grafik);
+    text += ordinal == Feld::Tag || ordinal == Feld::Monat ? "."
+            : ordinal == Feld::Jahr                        ? "  "
+                                                           : " ";
+  }
   RichTextBox1.setText(std::move(text));
 }
 

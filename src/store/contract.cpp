@@ -5,21 +5,16 @@
 namespace nautrel {
 namespace {
 
-constexpr auto kFlag = Kind::Flag;
+constexpr Column text(std::string_view name) {
+  return {name, Kind::Text};
+}
+constexpr Column flag(std::string_view name) {
+  return {name, Kind::Flag};
+}
 
-constexpr std::array<Column, 30> kLogbuch{{
-    {"Nr"},         {"Land"},          {"Ort"},           {"Platz"},
-    {"Tag"},        {"Monat"},         {"Jahr"},          {"Zeit"},
-    {"Tiefe"},      {"Buddy"},         {"Lang"},          {"Salz", kFlag},
-    {"Süß", kFlag}, {"Ufer", kFlag},   {"Boot", kFlag},   {"Deco", kFlag},
-    {"Alu", kFlag}, {"Stahl", kFlag},  {"Liter"},         {"Bars"},
-    {"Bare"},       {"Wetter"},        {"Anzug"},         {"Höhe"},
-    {"Blei"},       {"Sichtg", kFlag}, {"Sichtm", kFlag}, {"Sichts", kFlag},
-    {"Rep", kFlag}, {"Grafik"},
-}};
-static_assert(kLogbuch[Feld::Lang].name == "Lang" && kLogbuch[Feld::Süß].name == "Süß" &&
-              kLogbuch[Feld::Stahl].name == "Stahl" && kLogbuch[Feld::Höhe].name == "Höhe" &&
-              kLogbuch[Feld::Rep].name == "Rep" && kLogbuch[Feld::Grafik].name == "Grafik");
+#define NAUTREL_TEXT(name) text(#name)
+#define NAUTREL_FLAG(name) flag(#name)
+constexpr Column kLogbuch[] = {NAUTREL_LOGBUCH(NAUTREL_TEXT, NAUTREL_FLAG)};
 
 constexpr std::array<Column, 16> kBenutzer{{
     {"Vorname"},

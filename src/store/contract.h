@@ -16,41 +16,19 @@ inline constexpr std::string_view Ausrüstung = "Ausrüstung";
 inline constexpr std::string_view Statistik = "Statistik";
 }  // namespace Tabelle
 
-/// The ordinals of the columns of `Logbuch`. Windows read by them and write by name, and both must
-/// hit the same column.
+/// The columns of `Logbuch` in order, each once: what stands here is the ordinal `Feld::Nr`, the
+/// name "Nr" and the column itself.
+#define NAUTREL_LOGBUCH(Text, Flag)                                                             \
+  Text(Nr), Text(Land), Text(Ort), Text(Platz), Text(Tag), Text(Monat), Text(Jahr), Text(Zeit), \
+      Text(Tiefe), Text(Buddy), Text(Lang), Flag(Salz), Flag(Süß), Flag(Ufer), Flag(Boot),      \
+      Flag(Deco), Flag(Alu), Flag(Stahl), Text(Liter), Text(Bars), Text(Bare), Text(Wetter),    \
+      Text(Anzug), Text(Höhe), Text(Blei), Flag(Sichtg), Flag(Sichtm), Flag(Sichts), Flag(Rep), \
+      Text(Grafik)
+
 namespace Feld {
-enum Ordinal : int {
-  Nr,
-  Land,
-  Ort,
-  Platz,
-  Tag,
-  Monat,
-  Jahr,
-  Zeit,
-  Tiefe,
-  Buddy,
-  Lang,
-  Salz,
-  Süß,
-  Ufer,
-  Boot,
-  Deco,
-  Alu,
-  Stahl,
-  Liter,
-  Bars,
-  Bare,
-  Wetter,
-  Anzug,
-  Höhe,
-  Blei,
-  Sichtg,
-  Sichtm,
-  Sichts,
-  Rep,
-  Grafik,
-};
+#define NAUTREL_ORDINAL(name) name
+enum Ordinal : int { NAUTREL_LOGBUCH(NAUTREL_ORDINAL, NAUTREL_ORDINAL) };
+#undef NAUTREL_ORDINAL
 }  // namespace Feld
 
 /// What a column holds: text of any length (empty and Null are different), or a Yes/No flag that
