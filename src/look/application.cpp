@@ -47,6 +47,8 @@ int runApplication(int argc, char** argv) {
   QApplication application(argc, argv);
   loadPictures();
   QApplication::setWindowIcon(namedIcon("nautrel"));
+  // Task bars find the program's sign and name by its desktop entry.
+  QApplication::setDesktopFileName(QStringLiteral("nautrel"));
   QApplication::setQuitOnLastWindowClosed(false);
 
   QtDesktop desktop;
