@@ -8,7 +8,7 @@
 #include "shell/Nautrel.h"
 
 // Each search, from the click to the list of hits, against a bare pass over the same rows that
-// reads all the columns; the ratio is to stay under 1.5.
+// reads all the columns; the ratio is to stay under 1.25.
 
 namespace nautrel::bench {
 namespace {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace nautrel {
 namespace {
@@ -34,30 +35,57 @@ void append(std::string& text, char32_t code) {
 
 // Whole logbooks are searched and written to files, and most of their characters are plain: those
 // go by runs, and the runs by blocks that the machine takes at once.
+using Word = std::uint64_t;
+constexpr std::size_t kWord = sizeof(Word);
+constexpr Word kBeyondPlain = 0x8080'8080'8080'8080;
+
+Word wordAt(const char* bytes) {
+  Word word = 0;
+  std::memcpy(&word, bytes, kWord);
+  return word;
+}
+
 std::size_t plainUntil(std::string_view text, std::size_t byte) {
-  const auto skip = [&](auto block) {
-    constexpr std::size_t kBlock = block;
-    for (; byte + kBlock <= text.size(); byte += kBlock) {
-      unsigned char all = 0;
-      for (std::size_t i = 0; i < kBlock; ++i) all |= static_cast<unsigned char>(text[byte + i]);
-      if (all >= 0x80) return;
-    }
-  };
-  skip(std::integral_constant<std::size_t, 32>());
-  skip(std::integral_constant<std::size_t, 8>());
+  const auto word = [&](std::size_t place) { return wordAt(text.data() + byte + place * kWord); };
+  const auto four = [&] { return word(0) | word(1) | word(2) | word(3); };
+  while (byte + 4 * kWord <= text.size() && (four() & kBeyondPlain) == 0) byte += 4 * kWord;
+  while (byte + kWord <= text.size() && (word(0) & kBeyondPlain) == 0) byte += kWord;
   while (byte < text.size() && static_cast<unsigned char>(text[byte]) < 0x80) ++byte;
   return byte;
 }
 
-void appendPlainLower(std::string& lower, std::string_view run) {
-  const auto start = lower.size();
-  lower += run;
-  char* const letters = lower.data() + start;
-  const auto count = run.size();
+/// Copies the plain characters with which a text begins. Returns how many.
+std::size_t copyPlain(char* room, std::string_view text) {
+  std::size_t byte = 0;
+  for (; byte + kWord <= text.size(); byte += kWord) {
+    const Word word = wordAt(text.data() + byte);
+    if ((word & kBeyondPlain) != 0) break;
+    std::memcpy(room + byte, &word, kWord);
+  }
+  if (text.size() >= kWord && byte + kWord > text.size()) {
+    const Word word = wordAt(text.data() + text.size() - kWord);
+    std::memcpy(room + text.size() - kWord, &word, kWord);
+    if ((word & kBeyondPlain) == 0) return text.size();
+  }
+  for (; byte < text.size() && static_cast<unsigned char>(text[byte]) < 0x80; ++byte)
+    room[byte] = text[byte];
+  return byte;
+}
+
+/// The plain letters alone; no byte of another character is taken for one.
+void lowerPlainLetters(std::string& text) {
+  char* const letters = text.data();
+  const auto count = text.size();
   for (std::size_t i = 0; i < count; ++i) {
     const bool capital = static_cast<unsigned char>(letters[i] - 'A') <= 'Z' - 'A';
     letters[i] = static_cast<char>(letters[i] | (capital ? 'a' - 'A' : 0));
   }
+}
+
+std::string lowerOf(char32_t code) {
+  std::string lower;
+  append(lower, static_cast<char32_t>(utf8proc_tolower(static_cast<utf8proc_int32_t>(code))));
+  return lower;
 }
 
 // What the code page holds from byte 0x80 on; from 0xA0 on it is the same as Unicode. The five
@@ -103,26 +131,33 @@ std::string onOneLine(std::string_view text) {
 }
 
 std::string lowerCase(std::string_view text) {
-  std::string lower;
-  lower.reserve(text.size());
-  for (std::size_t byte = 0; byte < text.size();) {
-    const auto plain = plainUntil(text, byte);
-    appendPlainLower(lower, text.substr(byte, plain - byte));
-    byte = plain;
-    if (byte == text.size()) break;
-    const auto [code, bytes] = characterAt(text, byte);
-    if (code == kBroken)
-      lower += text.substr(byte, bytes);
-    else
-      append(lower, static_cast<char32_t>(utf8proc_tolower(static_cast<utf8proc_int32_t>(code))));
-    byte += bytes;
+  std::string lower(text);
+  lowerPlainLetters(lower);
+  std::string joined;  // only where a character becomes longer or shorter
+  std::size_t taken = 0;
+  for (std::size_t byte = plainUntil(lower, 0); byte < lower.size();) {
+    const auto [code, bytes] = characterAt(lower, byte);
+    const auto small = code == kBroken ? lower.substr(byte, bytes) : lowerOf(code);
+    if (small.size() == bytes) {
+      lower.replace(byte, bytes, small);
+    } else {
+      joined.append(lower, taken, byte - taken).append(small);
+      taken = byte + bytes;
+    }
+    byte = plainUntil(lower, byte + bytes);
   }
-  return lower;
+  return taken == 0 ? lower : joined.append(lower, taken);
 }
 
 std::size_t characters(std::string_view text) {
   std::size_t count = 0;
-  for (std::size_t byte = 0; byte < text.size(); ++count) byte += characterAt(text, byte).bytes;
+  for (std::size_t byte = 0; byte < text.size(); ++count) {
+    const auto plain = plainUntil(text, byte);
+    count += plain - byte;
+    byte = plain;
+    if (byte == text.size()) break;
+    byte += characterAt(text, byte).bytes;
+  }
   return count;
 }
 
@@ -168,21 +203,23 @@ bool isWordCharacter(char32_t character) {
 }
 
 std::string toCodePage(std::string_view text) {
-  std::string bytes;
-  appendCodePage(bytes, text);
+  std::string bytes(text.size(), '\0');
+  bytes.resize(writeCodePage(bytes.data(), text));
   return bytes;
 }
 
-void appendCodePage(std::string& bytes, std::string_view text) {
+std::size_t writeCodePage(char* room, std::string_view text) {
+  std::size_t written = 0;
   for (std::size_t byte = 0; byte < text.size();) {
-    const auto plain = plainUntil(text, byte);
-    bytes += text.substr(byte, plain - byte);
-    byte = plain;
+    const auto plain = copyPlain(room + written, text.substr(byte));
+    written += plain;
+    byte += plain;
     if (byte == text.size()) break;
     const auto character = characterAt(text, byte);
-    bytes += codePageByte(character.code);
+    room[written++] = codePageByte(character.code);
     byte += character.bytes;
   }
+  return written;
 }
 
 std::string fromCodePage(std::string_view bytes) {

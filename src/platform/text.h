@@ -82,7 +82,8 @@ bool isWordCharacter(char32_t character);
 
 /// To and from the 8-bit western code page (1252). What it lacks becomes "?".
 std::string toCodePage(std::string_view text);
-void appendCodePage(std::string& bytes, std::string_view text);
 std::string fromCodePage(std::string_view bytes);
+/// As toCodePage(), into a room for as many bytes as the text has. Returns how many it took.
+std::size_t writeCodePage(char* room, std::string_view text);
 
 }  // namespace nautrel

@@ -1,5 +1,7 @@
 #include "platform/text_file.h"
 
+#include <algorithm>
+#include <cstring>
 #include <filesystem>
 #include <iterator>
 
@@ -9,6 +11,10 @@
 
 namespace nautrel {
 namespace fs = std::filesystem;
+namespace {
+
+constexpr std::string_view kBlanks = "                                ";
+}
 
 TextFile::TextFile(const std::string& path) {
   const auto native = nativePath(path);
@@ -23,26 +29,39 @@ TextFile::~TextFile() {
   flush();
 }
 
+/// The place of the next byte, with that many free from there on.
+char* TextFile::room(std::size_t bytes) {
+  if (bytes > block_.size() - used_) flush();
+  if (bytes > block_.size()) block_.resize(bytes);
+  return block_.data() + used_;
+}
+
+void TextFile::took(std::size_t bytes) {
+  used_ += bytes;
+  column_ += bytes;
+}
+
 void TextFile::print(std::string_view text) {
-  appendCodePage(bytes_, text);
+  took(writeCodePage(room(text.size()), text));
 }
 
 void TextFile::print(Tab tab) {
-  if (bytes_.size() - line_ >= tab.column) endLine();
-  bytes_.resize(line_ + tab.column - 1, ' ');
+  if (column_ >= tab.column) endLine();
+  const auto blanks = tab.column - 1 - column_;
+  char* const place = room(std::max(blanks, kBlanks.size()));
+  std::memcpy(place, kBlanks.data(), kBlanks.size());
+  if (blanks > kBlanks.size()) std::fill_n(place, blanks, ' ');
+  took(blanks);
 }
 
 void TextFile::endLine() {
-  constexpr std::size_t kMuch = 64 << 10;
-  bytes_ += "\r\n";
-  line_ = bytes_.size();
-  if (line_ > kMuch) flush();
+  print("\r\n");
+  column_ = 0;
 }
 
 void TextFile::flush() {
-  out_.write(bytes_.data(), static_cast<std::streamsize>(bytes_.size()));
-  bytes_.clear();
-  line_ = 0;
+  out_.write(block_.data(), static_cast<std::streamsize>(used_));
+  used_ = 0;
 }
 
 std::string readTextFile(const std::string& path) {

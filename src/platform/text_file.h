@@ -4,6 +4,7 @@
 #include <fstream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace nautrel {
 
@@ -34,11 +35,14 @@ class TextFile {
   void print(std::string_view text);
   void print(Tab tab);
   void endLine();
+  char* room(std::size_t bytes);
+  void took(std::size_t bytes);
   void flush();
 
   std::ofstream out_;
-  std::string bytes_;     // as they will stand in the file, one a character
-  std::size_t line_ = 0;  // where the line begins in them
+  std::vector<char> block_ = std::vector<char>(64 << 10);
+  std::size_t used_ = 0;    // bytes of the block that are still to be written
+  std::size_t column_ = 0;  // bytes already on the line, one a character
 };
 
 /// The text of such a file. Raises 53 if there is none.

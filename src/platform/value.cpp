@@ -15,6 +15,11 @@ bool Value::isYes() const {
   return flag != nullptr && *flag;
 }
 
+std::string_view Value::view() const {
+  const auto* text = std::get_if<std::string>(&held_);
+  return text != nullptr ? std::string_view(*text) : std::string_view();
+}
+
 std::string Value::text(const Locale& locale) const {
   if (isNull()) raise(InvalidUseOfNull);
   return joined(locale);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 
@@ -26,6 +27,8 @@ class Value {
   /// True only for a flag that is Yes; nothing else counts.
   bool isYes() const;
 
+  /// A text where it lies; of everything else a text without data.
+  std::string_view view() const;
   /// The text as a text box or a message would take it: Empty is "", a number its general form, a
   /// flag "True" or "False". Null raises 94.
   std::string text(const Locale& locale) const;

@@ -1,6 +1,5 @@
 #include "printing/dive_list.h"
 
-#include <array>
 #include <optional>
 #include <string_view>
 
@@ -31,41 +30,24 @@ void writeHead(TextFile& file, const DateTime& printed, const Locale& locale) {
   file.line(std::string(kRuleLength, '='));
 }
 
-/// Writes the lines of dives; the texts of one line are the room for the next.
-class DiveLines {
- public:
-  DiveLines(TextFile& file, const Recordset& dives) : file_(file), dives_(dives) {}
-
-  // The metres behind a depth in feet belong to the form of the list, which other programs read.
-  void write() {
-    using namespace Feld;
-    file_.line(alone(Nr), kLand, alone(Land), kOrt, alone(Ort), kPlatz, alone(Platz), kDatum,
-               joined(Tag), ".", joined(Monat), ".", joined(Jahr), kZeit, joined(Zeit), " min",
-               kTiefe, joined(Tiefe), " m", kBuddy, alone(Buddy));
-  }
-
- private:
-  std::string_view joined(Feld::Ordinal column) {
-    auto& text = texts_[static_cast<std::size_t>(column)];
-    text.clear();
-    dives_.appendField(text, column);
-    return text;
-  }
-  std::string_view alone(Feld::Ordinal column) {
+// The metres behind a depth in feet belong to the form of the list, which other programs read.
+void writeDive(TextFile& file, const Recordset& dive) {
+  using namespace Feld;
+  const auto joined = [&](Ordinal column) { return dive.fieldText(column); };
+  const auto alone = [&](Ordinal column) {
     const auto text = joined(column);
-    return text.empty() && dives_.Fields(column).isNull() ? "Null" : text;
-  }
-
-  TextFile& file_;
-  const Recordset& dives_;
-  std::array<std::string, Feld::Buddy + 1> texts_;  // of each column
-};
+    return text.data() == nullptr ? "Null" : text;
+  };
+  file.line(alone(Nr), kLand, alone(Land), kOrt, alone(Ort), kPlatz, alone(Platz), kDatum,
+            joined(Tag), ".", joined(Monat), ".", joined(Jahr), kZeit, joined(Zeit), " min", kTiefe,
+            joined(Tiefe), " m", kBuddy, alone(Buddy));
+}
 
 void writeDives(TextFile& file, const DiveList& list, Recordset dives) {
   const Value first(list.firstNumber);
   while (!dives.Eof() && dives.Fields(Feld::Nr) != first) dives.MoveNext();
-  DiveLines lines(file, dives);
-  for (int row = 0; row < list.count && !dives.Eof(); ++row, dives.MoveNext()) lines.write();
+  for (int row = 0; row < list.count && !dives.Eof(); ++row, dives.MoveNext())
+    writeDive(file, dives);
 }
 
 }  // namespace

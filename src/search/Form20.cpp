@@ -43,13 +43,12 @@ void Form20::writeRecord(const Recordset& row) {
   for (const auto& column : diveColumns()) {
     const auto ordinal = column.ordinal;
     if (const auto* word = column.words.search) {
-      if (row.Fields(ordinal).isYes()) text.append(word) += ' ';
+      if (row.fieldIsYes(ordinal)) text.append(word) += ' ';
       continue;
     }
-    row.appendField(text, ordinal);
-    text += ordinal == Feld::Tag || ordinal == Feld::Monat ? "."
-            : ordinal == Feld::Jahr                        ? "  "
-                                                           : " ";
+    text += row.fieldText(ordinal);
+    text += ordinal == Feld::Tag || ordinal == Feld::Monat ? '.' : ' ';
+    if (ordinal == Feld::Jahr) text += ' ';
   }
   RichTextBox1.setText(std::move(text));
 }

@@ -249,22 +249,14 @@ void Statement::reset() {
   sqlite3_reset(handle_.get());
 }
 
-std::string Statement::columnName(int column) const {
+std::string_view Statement::columnName(int column) const {
   return sqlite3_column_name(handle_.get(), column);
 }
 
 Value Statement::value(int column, Kind kind) const {
   if (kind == Kind::Flag) return sqlite3_column_int(handle_.get(), column) != 0;
-  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(handle_.get(), column));
-  if (text == nullptr) return Value::null();
-  const auto size = static_cast<std::size_t>(sqlite3_column_bytes(handle_.get(), column));
-  return std::string(text, size);
-}
-
-std::string_view Statement::text(int column) const {
-  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(handle_.get(), column));
-  if (text == nullptr) return {};
-  return {text, static_cast<std::size_t>(sqlite3_column_bytes(handle_.get(), column))};
+  const auto found = text(column);
+  return found.data() == nullptr ? Value::null() : Value(std::string(found));
 }
 
 std::string sqlName(std::string_view name) {

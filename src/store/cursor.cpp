@@ -24,7 +24,6 @@ Cursor::Cursor(std::shared_ptr<Connection> connection, std::string_view table,
   requireTable();
   readShape();
   chooseColumns(columns);
-  prepareWalk();
   values_.resize(ordinals_.size());
 }
 
@@ -47,7 +46,8 @@ void Cursor::readShape() {
   const auto there = static_cast<std::size_t>(shape.columnCount());
   for (std::size_t ordinal = 0; ordinal < contract_.size(); ++ordinal) {
     const auto name = contract_[ordinal].name;
-    const auto found = ordinal < there ? shape.columnName(static_cast<int>(ordinal)) : "";
+    const std::string_view found =
+        ordinal < there ? shape.columnName(static_cast<int>(ordinal)) : "";
     if (found != name && lowerCase(found) != lowerCase(name))
       raiseBecause(ItemNotFound, "'" + std::string(name) + "'");
     sqlNames_.push_back(sqlName(found));
@@ -74,6 +74,7 @@ void Cursor::prepareWalk() {
 }
 
 bool Cursor::seek(std::int64_t from) {
+  if (!walk_) prepareWalk();
   live_ = false;
   walk_.reset();
   walk_.bind(1, from);
@@ -124,7 +125,8 @@ void Cursor::requireColumn(int ordinal) const {
   if (ordinal < 0 || ordinal >= static_cast<int>(contract_.size())) raise(ItemNotFound);
 }
 
-void Cursor::requireRow() const {
+void Cursor::requireRow() {
+  arrive();
   if (place_ == Place::Deleted) raise(RecordDeleted);
   if (place_ != Place::Row) raise(NoCurrentRecord);
 }
@@ -135,32 +137,44 @@ const Value* Cursor::assigned(int ordinal) const {
   return nullptr;
 }
 
-Value Cursor::blank(int ordinal) const {
-  return contract_[ordinal].kind == Kind::Flag ? Value(false) : Value::null();
+const Value& Cursor::blank(int ordinal) const {
+  static const Value kNo(false);
+  static const Value kNothing = Value::null();
+  return contract_[ordinal].kind == Kind::Flag ? kNo : kNothing;
 }
 
-Value Cursor::field(int ordinal) const {
+/// A column's value where the cursor itself holds it; null where the walk does.
+const Value* Cursor::kept(int ordinal) {
   requireColumn(ordinal);
   if (pending_ != Pending::None) {
-    if (const Value* value = assigned(ordinal)) return *value;
-    if (pending_ == Pending::AddNew) return blank(ordinal);
+    if (const Value* value = assigned(ordinal)) return value;
+    if (pending_ == Pending::AddNew) return &blank(ordinal);
   }
-  requireRow();
+  if (!live_) requireRow();
   const int slot = slots_[ordinal];
   if (slot < 0) raise(ItemNotFound);
-  return live_ ? walk_.value(slot + 1, contract_[ordinal].kind) : values_[slot];
+  return live_ ? nullptr : &values_[slot];
 }
 
-void Cursor::appendField(std::string& text, int ordinal) const {
-  requireColumn(ordinal);
-  const int slot = slots_[ordinal];
-  if (live_ && pending_ == Pending::None && slot >= 0 && contract_[ordinal].kind == Kind::Text)
-    text += walk_.text(slot + 1);
-  else
-    text += field(ordinal).joined({});
+Value Cursor::field(int ordinal) {
+  const Value* value = kept(ordinal);
+  return value != nullptr ? *value : walk_.value(slots_[ordinal] + 1, contract_[ordinal].kind);
 }
 
-Value Cursor::fieldAfresh(int ordinal) const {
+std::string_view Cursor::text(int ordinal) {
+  const Value* value = kept(ordinal);
+  if (contract_[ordinal].kind != Kind::Text) raise(TypeMismatch);
+  return value != nullptr ? value->view() : walk_.text(slots_[ordinal] + 1);
+}
+
+bool Cursor::isYes(int ordinal) {
+  const Value* value = kept(ordinal);
+  if (value != nullptr || contract_[ordinal].kind != Kind::Flag)
+    return value != nullptr && value->isYes();
+  return walk_.integer(slots_[ordinal] + 1) != 0;
+}
+
+Value Cursor::fieldAfresh(int ordinal) {
   requireColumn(ordinal);
   requireRow();
   Statement now(*connection_,

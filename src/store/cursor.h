@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <span>
 #include <string>
@@ -15,8 +16,10 @@ namespace nautrel {
 
 /// What the two kinds of recordset share: the row on which they stand, and the changes begun on it.
 ///
-/// One statement serves every read: the rows from a given one on, in stored order. While it stands
-/// on a row it holds a snapshot of the file; release() lets go of it and keeps the row's values.
+/// One statement serves every read: the rows from a given one on, in stored order. It is made and
+/// goes to the first row when that is first asked for, since a count or a new row needs neither.
+/// While it stands on a row it holds a snapshot of the file; release() lets go of it and keeps the
+/// row's values.
 class Cursor {
  public:
   virtual ~Cursor() = default;
@@ -29,14 +32,18 @@ class Cursor {
   virtual void next() = 0;
   virtual void previous() = 0;
   virtual void move(int rows) = 0;
-  bool atEnd() const { return place_ == Place::End; }
+  bool atEnd() {
+    arrive();
+    return place_ == Place::End;
+  }
 
   std::span<const Column> columns() const { return contract_; }
   /// Raises 3265.
   int ordinalOf(std::string_view name) const;
-  Value field(int ordinal) const;
-  void appendField(std::string& text, int ordinal) const;
-  Value fieldAfresh(int ordinal) const;
+  Value field(int ordinal);
+  std::string_view text(int ordinal);
+  bool isYes(int ordinal);
+  Value fieldAfresh(int ordinal);
 
   void assign(int ordinal, const Value& value);
   void addNew();
@@ -45,11 +52,17 @@ class Cursor {
   void remove();
 
  protected:
-  enum class Place { Row, Deleted, Before, End };
+  enum class Place { Opened, Row, Deleted, Before, End };
+
+  static constexpr auto kFirstRow = std::numeric_limits<std::int64_t>::min();
 
   Cursor(std::shared_ptr<Connection> connection, std::string_view table,
          const std::vector<std::string>& columns);
 
+  /// What needs a place calls it first; goes to the first row after the opening.
+  void arrive() {
+    if (place_ == Place::Opened) seek(kFirstRow);
+  }
   /// Goes to the first row that is not before `from`; past the end if there is none.
   bool seek(std::int64_t from);
   /// The row after the one on which the walk stands.
@@ -68,7 +81,7 @@ class Cursor {
 
   std::shared_ptr<Connection> connection_;
   std::string table_;
-  Place place_ = Place::Before;
+  Place place_ = Place::Opened;
   std::int64_t row_ = 0;
 
  private:
@@ -80,9 +93,10 @@ class Cursor {
   void chooseColumns(const std::vector<std::string>& columns);
   void prepareWalk();
   void requireColumn(int ordinal) const;
-  void requireRow() const;
+  void requireRow();
+  const Value* kept(int ordinal);
   const Value* assigned(int ordinal) const;
-  Value blank(int ordinal) const;
+  const Value& blank(int ordinal) const;
   void insertRow();
   void updateRow();
   void prepareUpdate();

@@ -104,8 +104,12 @@ Value Recordset::Fields(std::string_view name) const {
   return cursor().field(cursor().ordinalOf(name));
 }
 
-void Recordset::appendField(std::string& text, int ordinal) const {
-  cursor().appendField(text, ordinal);
+std::string_view Recordset::fieldText(int ordinal) const {
+  return cursor().text(ordinal);
+}
+
+bool Recordset::fieldIsYes(int ordinal) const {
+  return cursor().isYes(ordinal);
 }
 
 Value Recordset::FieldAfresh(int ordinal) const {

@@ -96,9 +96,13 @@ class Recordset {
   /// (deleted), 3265 (no such column).
   Value Fields(int ordinal) const;
   Value Fields(std::string_view name) const;
-  /// Adds a column's text to the end of `text`, Null as nothing: for passes that join whole rows.
-  /// Raises what Fields raises.
-  void appendField(std::string& text, int ordinal) const;
+  /// For passes that read whole rows: a text column's text where it lies, Null as one without data,
+  /// good until the next call that moves or changes; and whether a flag is Yes. Raise what Fields
+  /// raises, and 13 for the text of a flag.
+  /// @{
+  std::string_view fieldText(int ordinal) const;
+  bool fieldIsYes(int ordinal) const;
+  /// @}
   /// A column of the current row as it is stored now, without a move: Fields keeps what it gave.
   /// Raises what Fields raises.
   Value FieldAfresh(int ordinal) const;

@@ -8,16 +8,13 @@
 namespace nautrel {
 namespace {
 
-constexpr auto kFirstRow = std::numeric_limits<std::int64_t>::min();
 constexpr auto kLastRow = std::numeric_limits<std::int64_t>::max();
 
 }  // namespace
 
 TableCursor::TableCursor(std::shared_ptr<Connection> connection, std::string_view table,
                          const std::vector<std::string>& columns)
-    : Cursor(std::move(connection), table, columns) {
-  seek(kFirstRow);
-}
+    : Cursor(std::move(connection), table, columns) {}
 
 int TableCursor::count() {
   if (!count_) {
@@ -29,6 +26,7 @@ int TableCursor::count() {
 }
 
 int TableCursor::position() {
+  arrive();
   if (place_ != Place::Row) return -1;
   Statement counting(*connection_, "SELECT count(*) FROM " + sqlName(table_) + " WHERE rowid < ?1");
   counting.bind(1, row_);
@@ -59,6 +57,7 @@ void TableCursor::previous() {
 }
 
 void TableCursor::move(int rows) {
+  arrive();
   const bool nowhere = place_ == Place::Before || atEnd();
   if (rows == 0 && nowhere) raise(NoCurrentRecord);
   if (rows == 0) {
@@ -105,7 +104,9 @@ void TableCursor::refetch() {
   release();
 }
 
-void TableCursor::added(std::int64_t) {
+/// A set that was empty stays at its end.
+void TableCursor::added(std::int64_t row) {
+  if (place_ == Place::Opened && !rowUpTo(row - 1, 0)) place_ = Place::End;
   if (count_) ++*count_;
 }
 

@@ -194,7 +194,20 @@ TEST(Characters, count_code_points_even_of_a_damaged_text) {
 TEST(LowerCase, keeps_every_character_one_character) {
   EXPECT_EQ(lowerCase("ÄÖÜ Éß 12 ROT"), "äöü éß 12 rot");
   EXPECT_EQ(lowerCase("ΣΊΣΥΦΟΣ"), "σίσυφοσ");
-  EXPECT_EQ(characters(lowerCase("İẞǅ\uFFFD")), 4u);
+  EXPECT_EQ(lowerCase("İẞaǅ\uFFFDȺ Ⱦ!"), "ißaǆ\uFFFDⱥ ⱦ!");
+}
+
+TEST(Characters, beyond_the_plain_ones_are_found_at_every_place) {
+  for (std::size_t length = 0; length < 90; ++length)
+    for (std::size_t place = 0; place <= length; ++place) {
+      const auto around = [&](const char* it) {
+        return std::string(place, 'a') + it + std::string(length - place, 'z');
+      };
+      ASSERT_EQ(characters(around("€")), length + 1);
+      ASSERT_EQ(toCodePage(around("Ü")), around("\xDC"));
+      ASSERT_EQ(lowerCase(around("Ü")), around("ü"));
+      ASSERT_EQ(lowerCase(around("ZȺẞ")), around("zⱥß"));
+    }
 }
 
 TEST(WordCharacter, is_a_letter_a_digit_or_the_underscore) {

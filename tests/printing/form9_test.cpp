@@ -197,6 +197,18 @@ TEST_F(ListFile, AnItemPastItsColumnGoesOnTheNextLine) {
                 "                60 m    B\r\n");
 }
 
+TEST_F(ListFile, TakesAnyLength) {
+  auto dive = someDive(1);
+  for (const std::size_t length : {std::size_t(65'500), std::size_t(200'000)}) {
+    dive["Buddy"] = std::string(length, 'b') + "é";
+    add(dive);
+    dive["Nr"] = "2";
+  }
+  const auto file = save(open());
+  EXPECT_EQ(file.size(), head("3/5/2001 2:07:09 PM").size() + 2 * (101 + 3) + 265'500);
+  EXPECT_TRUE(file.ends_with(std::string(200'000, 'b') + "\xE9\r\n"));
+}
+
 TEST_F(ListFile, TakesTheRowsOfTheRangeByTheirPlace) {
   auto& form = openWith(1, 25);
   const auto line = [](int number) {

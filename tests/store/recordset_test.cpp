@@ -151,22 +151,38 @@ TEST_P(RecordsetTest, StoresWhatIsAssigned) {
   EXPECT_EQ(failureOf([&] { dives.setField("Rep", Value::null()); }), InvalidUseOfNull);
 }
 
-TEST_P(RecordsetTest, AppendsAColumnsTextAsItStands) {
-  addDives(7, 7);
+TEST_P(RecordsetTest, ShowsAColumnWhereItLies) {
+  EXPECT_EQ(otherProgram("INSERT INTO Logbuch (Nr, Land, Boot) VALUES (7, '', 1)"), "");
   auto dives = open();
-  const auto appended = [&](int ordinal) {
-    std::string text = "<";
-    dives.appendField(text, ordinal);
-    return text;
+  const auto expect = [&](const char* number, bool boat) {
+    EXPECT_EQ(dives.fieldText(Feld::Nr), number);
+    EXPECT_TRUE(dives.fieldText(Feld::Land).empty() && dives.fieldText(Feld::Land).data());
+    EXPECT_EQ(dives.fieldText(Feld::Grafik).data(), nullptr);
+    EXPECT_EQ(dives.fieldIsYes(Feld::Boot), boat);
+    EXPECT_FALSE(dives.fieldIsYes(Feld::Rep) || dives.fieldIsYes(Feld::Nr));
   };
-  EXPECT_EQ(appended(Feld::Nr), "<7");
-  EXPECT_EQ(appended(Feld::Grafik), "<");
+  expect("7", true);
   dives.Edit();
+  expect("7", true);
   dives.setField(Feld::Nr, "Zwölf");
-  EXPECT_EQ(appended(Feld::Nr), "<Zwölf");
+  dives.setField(Feld::Boot, false);
+  expect("Zwölf", false);
+  EXPECT_EQ(failureOf([&] { dives.fieldText(Feld::Boot); }), TypeMismatch);
   dives.MoveNext();
-  EXPECT_EQ(failureOf([&] { appended(Feld::Nr); }), NoCurrentRecord);
-  EXPECT_EQ(failureOf([&] { appended(99); }), ItemNotFound);
+  EXPECT_EQ(failureOf([&] { dives.fieldText(Feld::Nr); }), NoCurrentRecord);
+  EXPECT_EQ(failureOf([&] { dives.fieldIsYes(Feld::Boot); }), NoCurrentRecord);
+  EXPECT_EQ(failureOf([&] { dives.fieldText(99); }), ItemNotFound);
+}
+
+TEST_P(RecordsetTest, ANewRowInAnEmptySetLeavesItAtItsEnd) {
+  auto dives = open();
+  dives.AddNew();
+  dives.setField("Nr", "1");
+  dives.Update();
+  EXPECT_TRUE(dives.Eof());
+  EXPECT_EQ(dives.RecordCount(), 1);
+  dives.MoveFirst();
+  EXPECT_EQ(number(dives), "1");
 }
 
 TEST_P(RecordsetTest, ANewRowStartsBlankAndTheCurrentOneComesBack) {
