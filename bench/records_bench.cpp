@@ -1,14 +1,14 @@
 #include <QApplication>
 #include <memory>
 
+#include "app/MDIForm1.h"
+#include "app/Nautrel.h"
 #include "bench_support.h"
 #include "dives/Form5.h"
 #include "dives/Form8.h"
 #include "look/frame/qt_looks.h"
 #include "quiet_desktop.h"
 #include "shell/Form1.h"
-#include "shell/MDIForm1.h"
-#include "shell/Nautrel.h"
 
 // The windows that work on the whole logbook, with their look and the progress bar, against the
 // same changes by calls of the engine itself; the ratio is to stay under 1.3.

@@ -1,11 +1,11 @@
 #include <string>
 
+#include "app/Nautrel.h"
 #include "bench_support.h"
 #include "quiet_desktop.h"
 #include "search/Form12.h"
 #include "search/Form14.h"
 #include "search/Form20.h"
-#include "shell/Nautrel.h"
 
 // Each search, from the click to the list of hits, against a bare pass over the same rows that
 // reads all the columns; the ratio is to stay under 1.25.

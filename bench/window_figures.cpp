@@ -12,6 +12,8 @@
 #include <cstdio>
 #include <fstream>
 
+#include "app/MDIForm1.h"
+#include "app/Nautrel.h"
 #include "bench_support.h"
 #include "dives/Form2.h"
 #include "dives/Form3.h"
@@ -21,9 +23,7 @@
 #include "look/system/qt_desktop.h"
 #include "search/Form20.h"
 #include "shell/Form1.h"
-#include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
 
 namespace nautrel::bench {
 namespace {

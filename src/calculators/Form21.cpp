@@ -1,11 +1,11 @@
 #include "calculators/Form21.h"
 
-#include "shell/MDIForm1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/placing.h"
 
 namespace nautrel {
 
-Form21::Form21(Nautrel& app)
+Form21::Form21(Shell& app)
     : Form(app, "Form21", {.caption = "Unit Calculations", .width = 4575, .height = 4470}),
       app_(app) {
   arrangePages();

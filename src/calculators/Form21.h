@@ -3,16 +3,17 @@
 #include "calculators/unit_conversion.h"
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// "Unit Calculations": six pages of boxes. Typing into one box fills every other of its page.
 class Form21 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form21(Nautrel& app);
+  static constexpr int kNumber = Windows::UnitCalculation;
+  explicit Form21(Shell& app);
 
   void Form_Load() override;
   /// The handlers that all boxes of units share, by the number of the box.
@@ -101,7 +102,7 @@ class Form21 : public Form {
   void bindButtons();
   void empty(UnitPage page);
 
-  Nautrel& app_;
+  Shell& app_;
   std::map<int, TextBox*> boxes_;
 };
 

@@ -1,7 +1,7 @@
 #include "calculators/Form22.h"
 
-#include "shell/MDIForm1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/placing.h"
 
 namespace nautrel {
 
@@ -29,7 +29,7 @@ Figure Form22::depthLabel(double top) {
   return figure;
 }
 
-Form22::Form22(Nautrel& app)
+Form22::Form22(Shell& app)
     : Form(app, "Form22", {.caption = "Calculations", .width = 4785, .height = 4470}), app_(app) {
   arrangePages();
   bindHandlers();

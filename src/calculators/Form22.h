@@ -4,17 +4,18 @@
 #include "platform/controls.h"
 #include "platform/drawing.h"
 #include "platform/form.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// "Calculations": a volume of air in two depths, with a picture of it, and the buoyancy of a
 /// solid.
 class Form22 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form22(Nautrel& app);
+  static constexpr int kNumber = Windows::Calculations;
+  explicit Form22(Shell& app);
 
   void Form_Load() override;
   void SSTab1_Click();
@@ -113,7 +114,7 @@ class Form22 : public Form {
   void showScene();
   void bringToFront(PictureBox& front, PictureBox& back);
 
-  Nautrel& app_;
+  Shell& app_;
   AirScene scene_;
 };
 

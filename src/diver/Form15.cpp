@@ -3,15 +3,15 @@
 #include <optional>
 
 #include "platform/errors.h"
-#include "shell/MDIForm1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/placing.h"
 #include "store/contract.h"
 
 namespace nautrel {
 
-Form15::Form15(Nautrel& app)
+Form15::Form15(Shell& app)
     : Form(app, "Form15", {.caption = "Dive Equipment", .width = 8400, .height = 5100}),
-      Data1(*this, "Data1", app.workspace(), std::string(Tabelle::Ausrüstung)),
+      Data1(*this, "Data1", app.workspace(), Tabelle::Ausrüstung),
       app_(app) {
   Command3.setEnabled(false);
   Command5.setCancel();
@@ -38,7 +38,7 @@ std::array<Form15::Field, 9> Form15::fields() {
 }
 
 Recordset Form15::open(std::string_view table) {
-  return app_.workspace().OpenDatabase(app_.databasePath()).OpenRecordset(table);
+  return app_.openDatabase().OpenRecordset(table);
 }
 
 void Form15::showCount(int count) {

@@ -4,20 +4,21 @@
 #include <string>
 #include <string_view>
 
+#include "data/data_control.h"
 #include "platform/controls.h"
 #include "platform/form.h"
-#include "store/data_control.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// "Dive Equipment": a card index of the diver's gear. It browses, or it takes a new item; from a
 /// new item only Save and Close lead out.
 class Form15 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form15(Nautrel& app);
+  static constexpr int kNumber = Windows::DiveEquipment;
+  explicit Form15(Shell& app);
 
   void Form_Load() override;
   void Data1_Reposition();
@@ -55,7 +56,7 @@ class Form15 : public Form {
   void showCount(int count);
   void beginItem(bool begun);
 
-  Nautrel& app_;
+  Shell& app_;
 };
 
 }  // namespace nautrel

@@ -1,8 +1,9 @@
 #include "diver/Form7.h"
 
 #include "platform/errors.h"
-#include "shell/MDIForm1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
+#include "shell/placing.h"
 #include "store/contract.h"
 
 namespace nautrel {
@@ -13,9 +14,9 @@ constexpr int kOrganization = 11;
 
 }  // namespace
 
-Form7::Form7(Nautrel& app)
+Form7::Form7(Shell& app)
     : Form(app, "Form7", {.caption = "Personal information", .width = 9600, .height = 6000}),
-      Data1(*this, "Data1", app.workspace(), std::string(Tabelle::Benutzer)),
+      Data1(*this, "Data1", app.workspace(), Tabelle::Benutzer),
       CrystalReport1(app.desktop()),
       app_(app) {
   Data1.setVisible(false);

@@ -2,20 +2,21 @@
 
 #include <array>
 
+#include "data/data_control.h"
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/report.h"
-#include "store/data_control.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// "Personal information": the diver's own card, the one row of its table.
 class Form7 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form7(Nautrel& app);
+  static constexpr int kNumber = Windows::PersonalInformation;
+  explicit Form7(Shell& app);
 
   void Form_Load() override;
   void Data1_Reposition();
@@ -55,7 +56,7 @@ class Form7 : public Form {
   /// In the order of the columns, so that the place in it is the ordinal.
   std::array<Field, 16> fields();
 
-  Nautrel& app_;
+  Shell& app_;
 };
 
 }  // namespace nautrel

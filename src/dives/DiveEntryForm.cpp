@@ -2,7 +2,7 @@
 
 #include "platform/errors.h"
 #include "platform/text.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
 
 namespace nautrel {
 namespace {
@@ -12,7 +12,7 @@ constexpr double kDeepDive = 330;  // feet
 
 }  // namespace
 
-DiveEntryForm::DiveEntryForm(Nautrel& app, std::string name, Design design,
+DiveEntryForm::DiveEntryForm(Shell& app, std::string name, Design design,
                              const Differences& differences)
     : Form(app, std::move(name), std::move(design)),
       SSTab1(*this, "SSTab1",

@@ -8,7 +8,7 @@
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// The boxes of one dive and their rules, as the windows that enter and edit dives share them.
 /// Every rule lives in an event of its own box and looks at that box alone.
@@ -21,7 +21,7 @@ class DiveEntryForm : public Form {
     std::string severalInfo;     // captions of the last two pages
     std::string linkedGraphic;
   };
-  DiveEntryForm(Nautrel& app, std::string name, Design design, const Differences& differences);
+  DiveEntryForm(Shell& app, std::string name, Design design, const Differences& differences);
 
   /// Tests the five required boxes; an empty one is named in a message and leaves "ende" in Text12.
   void Felder();
@@ -72,7 +72,7 @@ class DiveEntryForm : public Form {
   /// After the rule of a box has run, and after a click on an option or a check box.
   virtual void edited() {}
 
-  Nautrel& app_;
+  Shell& app_;
 
  private:
   void placeOnPages();

@@ -1,8 +1,10 @@
 #include "dives/Form13.h"
 
 #include "platform/errors.h"
-#include "shell/MDIForm1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
+#include "shell/placing.h"
+#include "store/contract.h"
 
 namespace nautrel {
 namespace {
@@ -13,9 +15,9 @@ constexpr double kFrameWidth = 140;
 
 }  // namespace
 
-Form13::Form13(Nautrel& app)
+Form13::Form13(Shell& app)
     : Form(app, "Form13", {.caption = "Logbook Table", .width = 11400, .height = 7200}),
-      Data1(*this, "Data1", app.workspace(), "Logbuch"),
+      Data1(*this, "Data1", app.workspace(), Tabelle::Logbuch),
       app_(app) {
   Data1.setVisible(false);
   MSFlexGrid1.setDataSource(Data1);

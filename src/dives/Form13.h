@@ -1,19 +1,20 @@
 #pragma once
 
+#include "data/data_control.h"
+#include "data/grid.h"
 #include "platform/form.h"
-#include "platform/grid.h"
-#include "store/data_control.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// "Logbook Table": the whole logbook as one grid, under the names of its columns. The only window
 /// inside the frame that the user can size.
 class Form13 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form13(Nautrel& app);
+  static constexpr int kNumber = Windows::LogbookTable;
+  explicit Form13(Shell& app);
 
   void Form_Load() override;
   void Form_Resize() override;
@@ -22,7 +23,7 @@ class Form13 : public Form {
   Grid MSFlexGrid1{*this, "MSFlexGrid1"};
 
  private:
-  Nautrel& app_;
+  Shell& app_;
 };
 
 }  // namespace nautrel

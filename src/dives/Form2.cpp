@@ -1,9 +1,10 @@
 #include "dives/Form2.h"
 
 #include "platform/errors.h"
-#include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
+#include "shell/placing.h"
 
 namespace nautrel {
 namespace {
@@ -12,7 +13,7 @@ constexpr double kLastButOneNumber = 9998;
 
 }  // namespace
 
-Form2::Form2(Nautrel& app)
+Form2::Form2(Shell& app)
     : DiveEntryForm(app, "Form2", {.caption = "Insert dive", .width = 7200, .height = 6300},
                     {.repDive = "&Rep.-dive",
                      .pathLength = 255,
@@ -38,7 +39,7 @@ void Form2::edited() {
 void Form2::Form_Load() {
   Hourglass wait(app_.MDIForm1());
   placeInFrame(*this, app_.MDIForm1());
-  auto rows = app_.workspace().OpenDatabase(app_.databasePath()).OpenRecordset("Logbuch", {"Nr"});
+  auto rows = app_.openLogbook({"Nr"});
   resumeNext([&] { rows.MoveLast(); });
   resumeNext([&] { Text1.setText(text(rows.Fields("Nr").number(locale()) + 1)); });
   resumeNext([&] { app_.Modul1().LogbuchPruefen(); });
@@ -55,7 +56,7 @@ void Form2::Form_Load() {
 }
 
 void Form2::Speichern() {
-  auto rows = app_.workspace().OpenDatabase(app_.databasePath()).OpenRecordset("Logbuch");
+  auto rows = app_.openLogbook();
   rows.AddNew();
   eachColumn(
       *this,

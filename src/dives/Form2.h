@@ -1,14 +1,15 @@
 #pragma once
 
 #include "dives/DiveEntryForm.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
 /// "Insert dive": enters dives in series at the end of the logbook.
 class Form2 : public DiveEntryForm {
  public:
-  using App = Nautrel;
-  explicit Form2(Nautrel& app);
+  static constexpr int kNumber = Windows::InsertDive;
+  explicit Form2(Shell& app);
 
   void Form_Load() override;
   void Form_Unload() override;

@@ -4,17 +4,18 @@
 #include "dives/jump.h"
 #include "platform/errors.h"
 #include "platform/text.h"
-#include "search/return_to_search.h"
-#include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
+#include "shell/placing.h"
+#include "shell/return_to_search.h"
 #include "store/contract.h"
 
 namespace nautrel {
 
-Form3::Form3(Nautrel& app)
+Form3::Form3(Shell& app)
     : Form(app, "Form3", {.caption = "View Logbook", .width = 8400, .height = 6300}),
-      Data1(*this, "Data1", app.workspace(), "Logbuch"),
+      Data1(*this, "Data1", app.workspace(), Tabelle::Logbuch),
       app_(app) {
   SSTab1.pageHolds(0, {&List1});
   SSTab1.pageHolds(2, {&Frame3, &Frame5});
@@ -47,7 +48,7 @@ void Form3::Form_Load() {
 
 void Form3::fillList() {
   List1.Clear();
-  auto rows = app_.workspace().OpenDatabase(app_.databasePath()).OpenRecordset("Logbuch", {"Nr"});
+  auto rows = app_.openLogbook({"Nr"});
   for (; !rows.Eof(); rows.MoveNext()) List1.AddItem(rows.Fields(Feld::Nr).joined(locale()));
 }
 

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "data/data_control.h"
 #include "platform/controls.h"
 #include "platform/form.h"
-#include "store/data_control.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// "View Logbook": one dive at a time, read-only, with the list of all numbers beside it.
 ///
@@ -14,8 +15,8 @@ class Nautrel;
 /// Data1.Recordset().Move(target - currentNumber()).
 class Form3 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form3(Nautrel& app);
+  static constexpr int kNumber = Windows::ViewLogbook;
+  explicit Form3(Shell& app);
 
   void Form_Load() override;
   void Form_Unload() override;
@@ -69,7 +70,7 @@ class Form3 : public Form {
   void selectByCount();
   void selectIfShown(int line);
 
-  Nautrel& app_;
+  Shell& app_;
   bool following_ = false;  // the list follows the record, and does not lead it
 };
 

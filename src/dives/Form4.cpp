@@ -2,21 +2,22 @@
 
 #include "dives/jump.h"
 #include "platform/errors.h"
-#include "search/return_to_search.h"
-#include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
+#include "shell/placing.h"
+#include "shell/return_to_search.h"
 #include "store/contract.h"
 
 namespace nautrel {
 
-Form4::Form4(Nautrel& app)
+Form4::Form4(Shell& app)
     : DiveEntryForm(app, "Form4", {.caption = "Edit dives", .width = 7200, .height = 6900},
                     {.repDive = "&Rep.- dive",
                      .pathLength = 0,
                      .severalInfo = "Serveral Info",
                      .linkedGraphic = "Linked grafic"}),
-      Data1(*this, "Data1", app.workspace(), "Logbuch") {
+      Data1(*this, "Data1", app.workspace(), Tabelle::Logbuch) {
   Command1.setCaption("&Save Changes");
   Command1.setDefault(true);
   Command3.setCancel();
@@ -99,7 +100,7 @@ void Form4::Command1_Click() {
   Speichern();
   auto& last = app_.Modul1().LetzteNummer;
   {
-    auto database = app_.workspace().OpenDatabase(app_.databasePath());
+    auto database = app_.openDatabase();
     auto dives = database.OpenRecordset(Tabelle::Logbuch, {"Nr"});
     dives.MoveLast();
     last = dives.Fields(Feld::Nr);

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "data/data_control.h"
 #include "dives/DiveEntryForm.h"
-#include "store/data_control.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
@@ -12,8 +13,8 @@ namespace nautrel {
 /// currentNumber()).
 class Form4 : public DiveEntryForm {
  public:
-  using App = Nautrel;
-  explicit Form4(Nautrel& app);
+  static constexpr int kNumber = Windows::EditDive;
+  explicit Form4(Shell& app);
 
   void Form_Load() override;
   void Form_Unload() override;

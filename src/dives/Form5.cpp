@@ -5,11 +5,12 @@
 #include "dives/dive_columns.h"
 #include "dives/jump.h"
 #include "platform/errors.h"
-#include "search/return_to_search.h"
-#include "shell/MDIForm1.h"
+#include "platform/number_boxes.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
-#include "shell/number_boxes.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
+#include "shell/placing.h"
+#include "shell/return_to_search.h"
 #include "store/contract.h"
 #include "store/numbering.h"
 
@@ -30,9 +31,9 @@ constexpr const char* kGapWarning =
 
 }  // namespace
 
-Form5::Form5(Nautrel& app)
+Form5::Form5(Shell& app)
     : Form(app, "Form5", {.caption = "Delete dive", .width = 6600, .height = 5100}),
-      Data1(*this, "Data1", app.workspace(), "Logbuch"),
+      Data1(*this, "Data1", app.workspace(), Tabelle::Logbuch),
       app_(app) {
   Frame1.holds({&Text6, &SpinButton1, &Text7, &SpinButton2, &Label10});
   SSTab1.pageHolds(0, {&Text1, &Text2, &Text3, &Text4, &Text5, &Text8, &Data1, &Command1, &Command2,

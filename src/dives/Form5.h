@@ -2,13 +2,14 @@
 
 #include <string>
 
+#include "data/data_control.h"
 #include "platform/controls.h"
 #include "platform/form.h"
-#include "store/data_control.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// "Delete dive": removes one dive or a range of them, and gives the others new numbers from 1 on.
 ///
@@ -16,8 +17,8 @@ class Nautrel;
 /// currentNumber()).
 class Form5 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form5(Nautrel& app);
+  static constexpr int kNumber = Windows::DeleteDive;
+  explicit Form5(Shell& app);
 
   void Form_Load() override;
   void Form_Unload() override;
@@ -73,7 +74,7 @@ class Form5 : public Form {
   void warnOfGap(const CheckBox& renumbering);
   void closeIfEmpty();
 
-  Nautrel& app_;
+  Shell& app_;
 };
 
 }  // namespace nautrel

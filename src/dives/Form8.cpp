@@ -1,9 +1,10 @@
 #include "dives/Form8.h"
 
-#include "shell/MDIForm1.h"
+#include "platform/number_boxes.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
-#include "shell/number_boxes.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
+#include "shell/placing.h"
 #include "store/contract.h"
 #include "store/numbering.h"
 
@@ -15,7 +16,7 @@ constexpr int kLastNumber = 9999;
 
 }  // namespace
 
-Form8::Form8(Nautrel& app)
+Form8::Form8(Shell& app)
     : Form(app, "Form8", {.caption = "Sort logbook", .width = 5400, .height = 3000}), app_(app) {
   Frame1.holds({&Text1, &SpinButton1});
   Command2.setCancel();
@@ -33,7 +34,7 @@ void Form8::Form_Load() {
 }
 
 int Form8::countDives() {
-  auto database = app_.workspace().OpenDatabase(app_.databasePath());
+  auto database = app_.openDatabase();
   return database.OpenRecordset(Tabelle::Logbuch, {"Nr"}).RecordCount();
 }
 

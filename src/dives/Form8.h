@@ -2,16 +2,17 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// "Sort logbook": keeps the stored order and gives the dives new numbers from a chosen one on.
 class Form8 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form8(Nautrel& app);
+  static constexpr int kNumber = Windows::SortLogbook;
+  explicit Form8(Shell& app);
 
   void Form_Load() override;
   void Command1_Click();
@@ -28,7 +29,7 @@ class Form8 : public Form {
   std::string comingNumbers() const;
   void renumberAll();
 
-  Nautrel& app_;
+  Shell& app_;
 };
 
 }  // namespace nautrel

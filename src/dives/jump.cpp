@@ -1,11 +1,11 @@
 #include "dives/jump.h"
 
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
 
 namespace nautrel {
 
-std::string askForDive(Nautrel& app) {
+std::string askForDive(Shell& app) {
   auto& shared = app.Modul1();
   const auto& locale = app.desktop().locale();
   shared.NummernLesen();
@@ -15,12 +15,12 @@ std::string askForDive(Nautrel& app) {
                                 "Jump to dive-#");
 }
 
-bool isLastDive(Nautrel& app, const std::string& answer) {
+bool isLastDive(Shell& app, const std::string& answer) {
   const auto& last = app.Modul1().LetzteNummer;
   return !last.isNull() && answer == last.joined(app.desktop().locale());
 }
 
-std::optional<double> diveInRange(Nautrel& app, const std::string& answer) {
+std::optional<double> diveInRange(Shell& app, const std::string& answer) {
   const auto& shared = app.Modul1();
   const auto& locale = app.desktop().locale();
   const double dive = readNumber(answer, locale);

@@ -7,18 +7,18 @@
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// Reads the logbook's first and last number afresh and asks for a dive between them. Cancelled, it
 /// gives the empty text.
-std::string askForDive(Nautrel& app);
+std::string askForDive(Shell& app);
 
 /// Whether the answer is the last dive's number, to the letter.
-bool isLastDive(Nautrel& app, const std::string& answer);
+bool isLastDive(Shell& app, const std::string& answer);
 
 /// The answer as a number; nothing if it is out of the logbook's range. Raises 13 for an answer
 /// that is no number.
-std::optional<double> diveInRange(Nautrel& app, const std::string& answer);
+std::optional<double> diveInRange(Shell& app, const std::string& answer);
 
 /// Moves a record window by the difference to the number on which it stands. Raises what the move
 /// raises, and 94 or 13 on a row without a number.

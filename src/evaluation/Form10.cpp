@@ -4,7 +4,7 @@
 
 namespace nautrel {
 
-Form10::Form10(Nautrel& app)
+Form10::Form10(Shell& app)
     : GraphForm(app, "Form10", {.caption = "Graph years", .width = 10200, .height = 8400},
                 {.categoryTitle = "Years",
                  .valueTitle = "Count",

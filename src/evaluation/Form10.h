@@ -1,14 +1,15 @@
 #pragma once
 
 #include "evaluation/GraphForm.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
 /// "Graph years": the dives of the last ten years.
 class Form10 : public GraphForm {
  public:
-  using App = Nautrel;
-  explicit Form10(Nautrel& app);
+  static constexpr int kNumber = Windows::YearGraph;
+  explicit Form10(Shell& app);
 
   void Option1_Click();
   void Option2_Click();

@@ -4,7 +4,7 @@
 
 namespace nautrel {
 
-Form11::Form11(Nautrel& app)
+Form11::Form11(Shell& app)
     : GraphForm(app, "Form11", {.caption = "Graph month", .width = 10200, .height = 7800},
                 {.categoryTitle = "Month",
                  .valueTitle = "Percent",

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "evaluation/GraphForm.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
 /// "Graph month": the share of each month in all dives, over all years.
 class Form11 : public GraphForm {
  public:
-  using App = Nautrel;
-  explicit Form11(Nautrel& app);
+  static constexpr int kNumber = Windows::MonthGraph;
+  explicit Form11(Shell& app);
 
  private:
   void fill() override;

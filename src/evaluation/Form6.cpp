@@ -7,6 +7,8 @@
 #include "platform/errors.h"
 #include "platform/text.h"
 #include "platform/text_file.h"
+#include "shell/hourglass.h"
+#include "shell/placing.h"
 
 namespace nautrel {
 
@@ -18,9 +20,9 @@ struct Form6::Headings {
   const char* other;
 };
 
-Form6::Form6(Nautrel& app)
+Form6::Form6(Shell& app)
     : Form(app, "Form6", {.caption = "Statistic", .width = 7200, .height = 5400}),
-      Data1(*this, "Data1", app.workspace(), std::string(Tabelle::Statistik)),
+      Data1(*this, "Data1", app.workspace(), Tabelle::Statistik),
       CrystalReport1(app.desktop()),
       CommonDialog1(
           app.desktop(),

@@ -3,22 +3,23 @@
 #include <string>
 #include <vector>
 
+#include "data/data_control.h"
 #include "evaluation/figures.h"
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/report.h"
-#include "store/data_control.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 class TextFile;
 
 /// "Statistic": the figures of the whole logbook, counted when the window opens and never again.
 class Form6 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form6(Nautrel& app);
+  static constexpr int kNumber = Windows::Statistic;
+  explicit Form6(Shell& app);
 
   void Form_Load() override;
   void Command1_Click();
@@ -138,7 +139,7 @@ class Form6 : public Form {
   static void write(TextFile& file, const ShareLine& line);
   void dropMenu(Button& button, const char* digit);
 
-  Nautrel& app_;
+  Shell& app_;
 };
 
 }  // namespace nautrel

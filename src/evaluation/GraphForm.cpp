@@ -2,12 +2,13 @@
 
 #include <utility>
 
-#include "shell/MDIForm1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
+#include "shell/placing.h"
 
 namespace nautrel {
 
-GraphForm::GraphForm(Nautrel& app, std::string name, Form::Design design, Chart::Design chart,
+GraphForm::GraphForm(Shell& app, std::string name, Form::Design design, Chart::Design chart,
                      std::string pictureFile)
     : Form(app, std::move(name), std::move(design)),
       MSChart1(*this, "MSChart1", std::move(chart)),

@@ -8,7 +8,7 @@
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// What both graphs share: the chart, its copy for other programs, and the way out.
 class GraphForm : public Form {
@@ -25,14 +25,14 @@ class GraphForm : public Form {
   CommonDialog CommonDialog1;
 
  protected:
-  GraphForm(Nautrel& app, std::string name, Form::Design design, Chart::Design chart,
+  GraphForm(Shell& app, std::string name, Form::Design design, Chart::Design chart,
             std::string pictureFile);
   /// Counts the dives and fills the chart.
   virtual void fill() = 0;
-  Nautrel& app() const { return app_; }
+  Shell& app() const { return app_; }
 
  private:
-  Nautrel& app_;
+  Shell& app_;
 };
 
 }  // namespace nautrel

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "evaluation/figures.h"
-#include "shell/MDIForm1.h"
+#include "shell/FrameForm.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
 #include "store/contract.h"
 
 namespace nautrel {
@@ -11,9 +11,8 @@ namespace nautrel {
 /// Gives all dives to `pass`, a call of (Recordset&, const DiveDone&), with the progress bar for
 /// its time, and returns what it makes of them. Raises 3021 without dives.
 template <class Pass>
-auto passOverLogbook(Nautrel& app, const Columns& columns, Pass pass) {
-  auto dives =
-      app.workspace().OpenDatabase(app.databasePath()).OpenRecordset(Tabelle::Logbuch, columns);
+auto passOverLogbook(Shell& app, const Columns& columns, Pass pass) {
+  auto dives = app.openLogbook(columns);
   dives.MoveFirst();
   auto& shared = app.Modul1();
   shared.FortschrittMaximum = dives.RecordCount();

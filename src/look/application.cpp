@@ -3,12 +3,12 @@
 #include <QApplication>
 #include <memory>
 
+#include "app/Nautrel.h"
 #include "look/convert.h"
 #include "look/frame/qt_looks.h"
 #include "look/pictures/icons.h"
 #include "look/system/message_box.h"
 #include "look/system/qt_desktop.h"
-#include "shell/Nautrel.h"
 #include "store/lock.h"
 
 // A static library's pictures come in only if they are asked for, and only from outside of any

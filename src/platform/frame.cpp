@@ -25,14 +25,10 @@ Menu::Menu(Form& form, std::string name, std::string caption, bool visible)
 Toolbar::Toolbar(Form& form, std::string name, std::vector<ToolbarButton> buttons)
     : Control(form, std::move(name)), buttons_(std::move(buttons)) {}
 
-void Toolbar::setButtonEnabled(int index, bool enabled) {
-  if (index < 1 || index > static_cast<int>(buttons_.size())) raise(InvalidPropertyValue);
-  buttons_[static_cast<std::size_t>(index - 1)].enabled = enabled;
+void Toolbar::setButtonEnabled(std::string_view key, bool enabled) {
+  for (auto& button : buttons_)
+    if (button.key == key) button.enabled = enabled;
   changed();
-}
-
-bool Toolbar::buttonEnabled(int index) const {
-  return buttons_.at(static_cast<std::size_t>(index - 1)).enabled;
 }
 
 void Toolbar::userClick(const std::string& key) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/control.h"
@@ -45,14 +46,13 @@ struct ToolbarButton {
   bool enabled = true;
 };
 
-/// A row of buttons, addressed by index from 1 when enabled, by key when clicked.
+/// A row of buttons, addressed by their keys.
 class Toolbar : public Control {
  public:
   Toolbar(Form& form, std::string name, std::vector<ToolbarButton> buttons);
   const std::vector<ToolbarButton>& buttons() const { return buttons_; }
-  /// Raises 380 for an index that is not there.
-  void setButtonEnabled(int index, bool enabled);
-  bool buttonEnabled(int index) const;
+  /// A key that is not there is none.
+  void setButtonEnabled(std::string_view key, bool enabled);
 
   std::function<void(const std::string& key)> ButtonClick;
   void userClick(const std::string& key);

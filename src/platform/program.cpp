@@ -101,12 +101,6 @@ Form* Program::ifLoaded(int number) const {
   return it == windows_.end() ? nullptr : it->second.get();
 }
 
-std::vector<Form*> Program::loadedForms() const {
-  std::vector<Form*> forms;
-  for (const auto& [number, form] : windows_) forms.push_back(form.get());
-  return forms;
-}
-
 void Program::leave() {
   if (--depth_ > 0) return;
   desktop_.atEdge([this] { settle(); });

@@ -43,7 +43,6 @@ class Program {
   Form* activeForm() const { return front_; }
   /// The child windows that show, from back to front.
   const std::vector<Form*>& stack() const { return stack_; }
-  std::vector<Form*> loadedForms() const;
 
   /// The room that the main window has for its children, in twips; 0 while nobody has told it.
   struct Area {
@@ -59,12 +58,12 @@ class Program {
   void userNextWindow(int direction);
 
  protected:
-  /// The window of that number, made and loaded if it is not there.
-  template <class Window>
-  Window& window(int number) {
+  /// The window of that number, made for `owner` and loaded if it is not there.
+  template <class Window, class Owner>
+  Window& window(int number, Owner& owner) {
     if (auto it = windows_.find(number); it != windows_.end())
       return static_cast<Window&>(*it->second);
-    auto made = std::make_unique<Window>(static_cast<typename Window::App&>(*this));
+    auto made = std::make_unique<Window>(owner);
     auto& form = *made;
     load(number, std::move(made));
     return form;

@@ -1,11 +1,12 @@
 #include "printing/Form9.h"
 
 #include "platform/errors.h"
+#include "platform/number_boxes.h"
 #include "printing/dive_list.h"
-#include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
-#include "shell/number_boxes.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
+#include "shell/placing.h"
 
 namespace nautrel {
 namespace {
@@ -18,7 +19,7 @@ const RangeMessages kMessages = {"First dive-# not valid", "Last dive-# not vali
 
 }  // namespace
 
-Form9::Form9(Nautrel& app)
+Form9::Form9(Shell& app)
     : Form(app, "Form9", {.caption = "Print Dive List", .width = 5400, .height = 3300}),
       CrystalReport1(app.desktop(), "Nautrel 2.0 print dive list"),
       CommonDialog1(app.desktop(),

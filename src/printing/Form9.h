@@ -3,17 +3,18 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/report.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// "Print Dive List": a range of dives as a report on the screen, on the printer, or as a text
 /// file.
 class Form9 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form9(Nautrel& app);
+  static constexpr int kNumber = Windows::PrintDiveList;
+  explicit Form9(Shell& app);
 
   void Form_Load() override;
   void Command1_Click();
@@ -45,7 +46,7 @@ class Form9 : public Form {
   void writeList();
   void runReport(int destination);
 
-  Nautrel& app_;
+  Shell& app_;
 };
 
 }  // namespace nautrel

@@ -1,8 +1,8 @@
 #include "search/Form12.h"
 
-#include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
 #include "store/contract.h"
 
 namespace nautrel {
@@ -37,9 +37,9 @@ class Term {
 
 }  // namespace
 
-Form12::Form12(Nautrel& app)
+Form12::Form12(Shell& app)
     : TermSearchForm(app, "Form12", {.caption = "Search a word", .width = 8100, .height = 5700},
-                     {.opened = &Modul1::VonWortsuche,
+                     {.opened = windowEntry(kNumber).search,
                       .order = "First dive-# must be lower than last dive-#."}) {
   Frame3.holds({&Check1, &Check2, &Check3, &Check4, &Check5, &Check6, &Check7});
   setTabOrder({&Combo1, &Text1,   &SpinButton1, &Text2,   &SpinButton2, &Check1,   &Check2,

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "search/TermSearchForm.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
 /// "Search a word": dives with a column that begins with the term.
 class Form12 : public TermSearchForm {
  public:
-  using App = Nautrel;
-  explicit Form12(Nautrel& app);
+  static constexpr int kNumber = Windows::SearchWord;
+  explicit Form12(Shell& app);
 
   void Command1_Click() override;
 

@@ -1,9 +1,9 @@
 #include "search/Form14.h"
 
 #include "dives/dive_columns.h"
-#include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
 #include "store/contract.h"
 
 namespace nautrel {
@@ -26,9 +26,9 @@ constexpr NumberColumn kColumns[] = {
 
 }  // namespace
 
-Form14::Form14(Nautrel& app)
+Form14::Form14(Shell& app)
     : SearchForm(app, "Form14", {.caption = "Search a number", .width = 8100, .height = 6600},
-                 {.opened = &Modul1::VonZahlensuche,
+                 {.opened = windowEntry(kNumber).search,
                   .order = "First dive-# must be lower than last dive-#",
                   .resumesNext = true}) {
   Frame4.holds({&Check1, &Check2, &Check3, &Check4, &Check5, &Check6, &Check7, &Check8, &Check9,

@@ -5,6 +5,7 @@
 
 #include "platform/value.h"
 #include "search/SearchForm.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
@@ -12,8 +13,8 @@ namespace nautrel {
 /// dives of one day.
 class Form14 : public SearchForm {
  public:
-  using App = Nautrel;
-  explicit Form14(Nautrel& app);
+  static constexpr int kNumber = Windows::SearchNumber;
+  explicit Form14(Shell& app);
 
   void Command1_Click() override;
   void Check6_Click();

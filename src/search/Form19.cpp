@@ -5,11 +5,11 @@
 #include "dives/Form5.h"
 #include "dives/jump.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
 
 namespace nautrel {
 
-Form19::Form19(Nautrel& app)
+Form19::Form19(Shell& app)
     : Form(app, "Form19", {.caption = "found dives:", .width = 1500, .height = 6300}), app_(app) {
   List1.Click = [this] { List1_Click(); };
 }
@@ -33,17 +33,17 @@ void Form19::jump(RecordForm& record) {
 
 void Form19::Anzeigen() {
   const ListFollows follows(app_.Modul1());
-  jump(app_.Form3());
+  jump(app_.window<Form3>());
 }
 
 // The rules of the row on show take the focus to the window of the dive.
 void Form19::Bearbeiten() {
-  jump(app_.Form4());
+  jump(app_.window<Form4>());
   SetFocus();
 }
 
 void Form19::Löschen() {
-  jump(app_.Form5());
+  jump(app_.window<Form5>());
 }
 
 }  // namespace nautrel

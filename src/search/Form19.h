@@ -2,18 +2,19 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "shell/windows.h"
 #include "store/database.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// "found dives:": the hits of a search beside the record window. A click on a line moves that
 /// window to the dive. The search fills, sizes and places it.
 class Form19 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form19(Nautrel& app);
+  static constexpr int kNumber = Windows::FoundDives;
+  explicit Form19(Shell& app);
 
   /// The width of the list in twips; the window's title needs it.
   static constexpr double kListWidth = 2000;
@@ -32,7 +33,7 @@ class Form19 : public Form {
   template <class RecordForm>
   void jump(RecordForm& record);
 
-  Nautrel& app_;
+  Shell& app_;
 };
 
 }  // namespace nautrel

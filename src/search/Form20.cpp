@@ -1,15 +1,15 @@
 #include "search/Form20.h"
 
 #include "dives/dive_columns.h"
-#include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
 
 namespace nautrel {
 
-Form20::Form20(Nautrel& app)
+Form20::Form20(Shell& app)
     : TermSearchForm(app, "Form20", {.caption = "Full search", .width = 8100, .height = 4800},
-                     {.opened = &Modul1::VonVollsuche,
+                     {.opened = windowEntry(kNumber).search,
                       .order = "First dive-# must be lower than last dive-#!",
                       .rangeFiltered = false,
                       .view = "&View",

@@ -1,15 +1,16 @@
 #pragma once
 
-#include "search/RichTextBox.h"
+#include "platform/rich_text_box.h"
 #include "search/TermSearchForm.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
 /// "Full search": dives that have the term anywhere in their record, the flags by their words.
 class Form20 : public TermSearchForm {
  public:
-  using App = Nautrel;
-  explicit Form20(Nautrel& app);
+  static constexpr int kNumber = Windows::FullSearch;
+  explicit Form20(Shell& app);
 
   void Command1_Click() override;
   void neue_Suche() override;

@@ -7,11 +7,12 @@
 #include "dives/Form4.h"
 #include "dives/Form5.h"
 #include "platform/errors.h"
+#include "platform/number_boxes.h"
 #include "search/Form19.h"
-#include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
-#include "shell/number_boxes.h"
+#include "shell/Shell.h"
+#include "shell/hourglass.h"
+#include "shell/placing.h"
 #include "store/contract.h"
 
 namespace nautrel {
@@ -21,7 +22,7 @@ constexpr double kLeastNumber = 1;
 
 }  // namespace
 
-SearchForm::SearchForm(Nautrel& app, std::string name, Design design, Differences differences)
+SearchForm::SearchForm(Shell& app, std::string name, Design design, Differences differences)
     : Form(app, std::move(name), std::move(design)),
       Command3(*this, "Command3", differences.view),
       Command4(*this, "Command4", differences.close),
@@ -68,7 +69,7 @@ void SearchForm::Form_Load() {
 
 void SearchForm::Form_Unload() {
   app_.Modul1().*differences_.opened = false;
-  app_.unload(19);
+  app_.unload(Windows::FoundDives);
 }
 
 void SearchForm::Überprüfen() {
@@ -87,7 +88,7 @@ void SearchForm::run(Statement&& statement) const {
 // The way to the first row ends the program where there is none, whatever rule the pass has: under
 // the resume-next rule it would never end.
 void SearchForm::scan(const Columns& columns, const RowTest& isHit) {
-  auto rows = app_.workspace().OpenDatabase(app_.databasePath()).OpenRecordset("Logbuch", columns);
+  auto rows = app_.openLogbook(columns);
   rows.MoveFirst();
   while (rows.Fields(Feld::Nr).joined(locale()) != Text1.text()) rows.MoveNext();
 
@@ -152,19 +153,19 @@ void SearchForm::openHit() {
 }
 
 void SearchForm::Anzeigen() {
-  openIn(&Nautrel::Form3, "anzeigen", true);
+  openIn<Form3>("anzeigen", true);
 }
 void SearchForm::Bearbeiten() {
-  openIn(&Nautrel::Form4, "bearbeiten", false);
+  openIn<Form4>("bearbeiten", false);
 }
 void SearchForm::Löschen() {
-  openIn(&Nautrel::Form5, "löschen", false);
+  openIn<Form5>("löschen", false);
 }
 
 template <class RecordForm>
-void SearchForm::openIn(RecordForm& (Nautrel::*window)(), const char* mode, bool listFollows) {
-  (app_.*window)().Show();
-  auto& record = (app_.*window)();
+void SearchForm::openIn(const char* mode, bool listFollows) {
+  app_.window<RecordForm>().Show();
+  auto& record = app_.window<RecordForm>();
   record.Command3.setCaption("&Back");
   const double target = number(List1.text());
   auto& rows = record.Data1.Recordset();
@@ -180,8 +181,8 @@ void SearchForm::openIn(RecordForm& (Nautrel::*window)(), const char* mode, bool
 // The mode comes last, so that the click which the selection raises does not jump once more, nor
 // move the window that a list still open has led.
 void SearchForm::showFoundDives(const Form& beside, const char* mode) {
-  app_.Form19().Show();
-  auto& found = app_.Form19();
+  app_.window<Form19>().Show();
+  auto& found = app_.window<Form19>();
   found.Text1.setText("");
   found.setWidth(Form19::kListWidth + 100);
   found.setHeight(beside.Height());

@@ -10,7 +10,7 @@
 namespace nautrel {
 
 class Modul1;
-class Nautrel;
+class Shell;
 
 /// What the three searches share: the range of dive numbers, the pass over its rows, the list of
 /// hits, and the opening of a hit in a record window with the found dives beside it.
@@ -25,7 +25,7 @@ class SearchForm : public Form {
     std::string view = "View";       // caption of Command3 before an option was chosen
     std::string close = "Close";     // caption of Command4
   };
-  SearchForm(Nautrel& app, std::string name, Design design, Differences differences);
+  SearchForm(Shell& app, std::string name, Design design, Differences differences);
 
   void Form_Load() override;
   void Form_Unload() override;
@@ -75,7 +75,7 @@ class SearchForm : public Form {
   virtual void clearTerm() = 0;
   virtual Control& termBox() = 0;
 
-  Nautrel& app_;
+  Shell& app_;
 
  private:
   void bindRange();
@@ -84,7 +84,7 @@ class SearchForm : public Form {
   template <class Statement>
   void run(Statement&& statement) const;
   template <class RecordForm>
-  void openIn(RecordForm& (Nautrel::*window)(), const char* mode, bool listFollows);
+  void openIn(const char* mode, bool listFollows);
   void showFoundDives(const Form& beside, const char* mode);
 
   Differences differences_;

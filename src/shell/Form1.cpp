@@ -1,11 +1,11 @@
 #include "shell/Form1.h"
 
-#include "shell/MDIForm1.h"
-#include "shell/Nautrel.h"
+#include "shell/FrameForm.h"
+#include "shell/Shell.h"
 
 namespace nautrel {
 
-Form1::Form1(Nautrel& app)
+Form1::Form1(Shell& app)
     : Form(app, "Form1", {.caption = "Startup", .width = 8400, .height = 5100, .child = false}),
       app_(app) {
   Timer1.Fires = [this] { Timer1_Timer(); };

@@ -2,16 +2,17 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// The splash: a picture for 800 milliseconds, then the main window.
 class Form1 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form1(Nautrel& app);
+  static constexpr int kNumber = Windows::Splash;
+  explicit Form1(Shell& app);
 
   Timer Timer1{*this, "Timer1", 800};
 
@@ -19,7 +20,7 @@ class Form1 : public Form {
   void Timer1_Timer();
 
  private:
-  Nautrel& app_;
+  Shell& app_;
 };
 
 }  // namespace nautrel

@@ -1,54 +1,16 @@
 #include "shell/Modul1.h"
 
-#include <array>
-#include <string_view>
-
 #include "platform/errors.h"
-#include "shell/MDIForm1.h"
-#include "shell/Nautrel.h"
+#include "shell/FrameForm.h"
+#include "shell/Shell.h"
 
 namespace nautrel {
 namespace {
 
-struct StartWindow {
-  std::string_view setting;
-  int number;
-};
-
-constexpr std::array<StartWindow, 17> kStartWindows{{
-    {"Print dive-list", 9},
-    {"Personal information", 7},
-    {"Dive equipment", 15},
-    {"Sort logbook", 8},
-    {"Insert dive", 2},
-    {"Edit dive", 4},
-    {"Delete dive", 5},
-    {"View logbook", 3},
-    {"Logbook table", 13},
-    {"Search a word", 12},
-    {"Search a number", 14},
-    {"Full search", 20},
-    {"Statistic", 6},
-    {"Graph years", 10},
-    {"Graph month", 11},
-    {"Unit calculations", 21},
-    {"Calculations", 22},
-}};
-
 // Below this width of the main window, in twips, the third panel has no room.
 constexpr double kStatusWidth = 10335;
 
-Recordset openLogbook(Nautrel& app, const Columns& columns) {
-  return app.workspace().OpenDatabase(app.databasePath()).OpenRecordset("Logbuch", columns);
-}
-
 }  // namespace
-
-int startWindow(const std::string& setting) {
-  for (const auto& [known, number] : kStartWindows)
-    if (known == setting) return number;
-  return 0;
-}
 
 void Modul1::Startfenster() {
   resumeNext([&] { LogbuchPruefen(); });
@@ -62,12 +24,12 @@ void Modul1::Startfenster() {
 }
 
 void Modul1::LogbuchPruefen() {
-  LogbuchLeer = openLogbook(app_, {"Nr"}).RecordCount() == 0;
+  LogbuchLeer = app_.openLogbook({"Nr"}).RecordCount() == 0;
 }
 
 void Modul1::NummernLesen() {
   resumeNext([&] {
-    auto rows = openLogbook(app_, {"Nr"});
+    auto rows = app_.openLogbook({"Nr"});
     resumeNext([&] { rows.MoveLast(); });
     resumeNext([&] { LetzteNummer = rows.Fields(0); });
     resumeNext([&] { rows.MoveFirst(); });
@@ -100,7 +62,7 @@ void Modul1::StatusAktualisieren() {
   auto& frame = app_.MDIForm1();
   const auto& locale = app_.desktop().locale();
   std::string status =
-      "<Logbuch.mdb> Dives Logged: " + std::to_string(openLogbook(app_, {"Nr"}).RecordCount());
+      "<Logbuch.mdb> Dives Logged: " + std::to_string(app_.openLogbook({"Nr"}).RecordCount());
   LogbuchPruefen();
   if (!LogbuchLeer) {
     NummernLesen();

@@ -4,13 +4,13 @@
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// What all windows share. The variables live from start to end and start empty; the two numbers
 /// are fresh only after NummernLesen.
 class Modul1 {
  public:
-  explicit Modul1(Nautrel& app) : app_(app) {}
+  explicit Modul1(Shell& app) : app_(app) {}
 
   Value ErsteNummer;   // `Nr` of the first row, as stored
   Value LetzteNummer;  // `Nr` of the last row, as stored
@@ -35,7 +35,7 @@ class Modul1 {
   void StatusAktualisieren();
 
  private:
-  Nautrel& app_;
+  Shell& app_;
 };
 
 /// As long as it lives, Form3's list follows its record.
@@ -49,8 +49,5 @@ class ListFollows {
  private:
   Modul1& shared_;
 };
-
-/// The window whose name stands under `Start`/`Window`; 0 for one that is unknown. Exact.
-int startWindow(const std::string& setting);
 
 }  // namespace nautrel

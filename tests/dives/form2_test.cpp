@@ -34,7 +34,7 @@ TEST_F(InsertDive, AnEmptyLogbookComesToLifeWhenTheWindowCloses) {
   press(form, Key::Escape);
   EXPECT_FALSE(app->loaded(2));
   EXPECT_TRUE(app->MDIForm1().Menü3a.enabled());
-  EXPECT_TRUE(app->MDIForm1().Toolbar1.buttonEnabled(20));
+  EXPECT_TRUE(app->MDIForm1().Toolbar1.buttons()[19].enabled);
   EXPECT_EQ(rows("Logbuch", {"Nr", "Land", "Ort", "Platz", "Tag", "Monat", "Jahr", "Zeit", "Tiefe",
                              "Buddy", "Lang", "Salz", "Grafik"}),
             (std::vector<Texts>{{"1", "Egypt", "Hurghada", "Giftun", "05", "03", "2001", "45", "60",

@@ -166,7 +166,7 @@ TEST_F(DeleteDive, TheLastDiveTakesTheWindowAndTheCommandsWithIt) {
   EXPECT_EQ(desktop->texts(), (Texts{"Delete this dive?", "Dive deleted"}));
   EXPECT_FALSE(app->loaded(5));
   EXPECT_FALSE(app->MDIForm1().Menü2c.enabled());
-  EXPECT_FALSE(app->MDIForm1().Toolbar1.buttonEnabled(4));
+  EXPECT_FALSE(app->MDIForm1().Toolbar1.buttons()[3].enabled);
   EXPECT_EQ(status(), "<Logbuch.mdb> Dives Logged: 0");
 }
 

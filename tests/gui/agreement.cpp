@@ -16,12 +16,12 @@
 #include <QTabWidget>
 #include <QToolBar>
 
+#include "app/MDIForm1.h"
+#include "data/grid.h"
 #include "look/convert.h"
 #include "look/frame/form_view.h"
 #include "look/frame/main_frame.h"
 #include "platform/controls.h"
-#include "platform/grid.h"
-#include "shell/MDIForm1.h"
 
 namespace nautrel {
 namespace {
@@ -46,8 +46,9 @@ class Comparison {
       : app_(app), looks_(looks), boxIsOpen_(boxIsOpen) {}
 
   std::vector<std::string> run() {
-    for (auto* form : app_.loadedForms()) {
-      const auto* view = looks_.viewOf(*form);
+    for (int number = Windows::Main; number <= Windows::Calculations; ++number) {
+      auto* form = app_.ifLoaded(number);
+      const auto* view = form == nullptr ? nullptr : looks_.viewOf(*form);
       if (view == nullptr || view->root() == nullptr) continue;
       window(*form, *view->root());
       for (const auto& binding : view->bindings()) control(*binding);

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "app/Nautrel.h"
 #include "look/frame/qt_looks.h"
-#include "shell/Nautrel.h"
 
 namespace nautrel {
 

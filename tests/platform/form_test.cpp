@@ -18,7 +18,7 @@ class Window;
 class Scene : public Program {
  public:
   using Program::Program;
-  Window& open(int number = 1) { return window<Window>(number); }
+  Window& open(int number = 1) { return window<Window>(number, *this); }
   std::function<void(Window&)> onLoad;
   std::function<void(Window&)> onUnload;
 };
@@ -26,7 +26,6 @@ class Scene : public Program {
 /// Two boxes and a button on the first page, one box on the second; it notes its focus events.
 class Window : public Form {
  public:
-  using App = Scene;
   explicit Window(Scene& run) : Form(run, "Window", {.caption = "Window"}), run_(run) {
     Pages.pageHolds(0, {&First, &Second, &Press, &Red, &Green, &Check});
     Pages.pageHolds(1, {&Behind});

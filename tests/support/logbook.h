@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "shell/MDIForm1.h"
+#include "app/MDIForm1.h"
+#include "app/Nautrel.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
 #include "support/scripted_desktop.h"
 #include "support/user.h"
 

@@ -2,8 +2,8 @@
 
 #include <QTableView>
 
+#include "data/grid.h"
 #include "look/bindings/binding.h"
-#include "platform/grid.h"
 
 namespace nautrel {
 

@@ -12,7 +12,7 @@
 #include "look/frame/qt_looks.h"
 #include "look/pictures/icons.h"
 #include "platform/program.h"
-#include "shell/MDIForm1.h"
+#include "shell/placing.h"
 
 namespace nautrel {
 

@@ -13,6 +13,7 @@
 #include <QStatusBar>
 #include <QToolBar>
 
+#include "app/MDIForm1.h"
 #include "look/convert.h"
 #include "look/frame/child_window.h"
 #include "look/frame/qt_looks.h"
@@ -21,7 +22,6 @@
 #include "look/pictures/icons.h"
 #include "look/pictures/image_picture.h"
 #include "platform/program.h"
-#include "shell/MDIForm1.h"
 
 namespace nautrel {
 namespace {

@@ -5,12 +5,12 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "app/MDIForm1.h"
 #include "look/frame/child_window.h"
 #include "look/frame/main_frame.h"
 #include "look/frame/splash_window.h"
 #include "platform/program.h"
 #include "shell/Form1.h"
-#include "shell/MDIForm1.h"
 
 namespace nautrel {
 namespace {

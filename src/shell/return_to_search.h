@@ -2,10 +2,10 @@
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// A record window that a search has opened closes: the search comes back as it was, and the list
 /// of found dives goes. Without such a search it does nothing.
-void returnToSearch(Nautrel& app);
+void returnToSearch(Shell& app);
 
 }  // namespace nautrel

@@ -2,17 +2,18 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class Shell;
 
 /// The information window: what this system is and what it stands on. Its texts stand reversed in
 /// the labels and are turned round when it opens; the timer lets bubbles rise beside them.
 class Form16 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form16(Nautrel& app);
+  static constexpr int kNumber = Windows::Information;
+  explicit Form16(Shell& app);
 
   void Form_Load() override;
   void Picture1_Click();
@@ -49,7 +50,7 @@ class Form16 : public Form {
   Timer Timer1{*this, "Timer1", 40};
 
  private:
-  Nautrel& app_;
+  Shell& app_;
 };
 
 }  // namespace nautrel

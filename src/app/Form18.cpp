@@ -1,19 +1,27 @@
-#include "shell/Form18.h"
+#include "app/Form18.h"
 
+#include "app/MDIForm1.h"
 #include "platform/errors.h"
-#include "shell/MDIForm1.h"
 #include "shell/Modul1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/placing.h"
 
 namespace nautrel {
 
-Form18::Form18(Nautrel& app)
+namespace {
+
+std::vector<std::string> windowsOfTheStart() {
+  std::vector<std::string> names{"<no>"};
+  for (const auto& window : windowTable())
+    if (!window.start.empty()) names.emplace_back(window.start);
+  return names;
+}
+
+}  // namespace
+
+Form18::Form18(Shell& app)
     : Form(app, "Form18", {.caption = "Preferences", .width = 6600, .height = 4800}),
-      Combo1(*this, "Combo1", ComboBox::Style::ListOnly,
-             {"<no>", "Print dive-list", "Personal information", "Dive equipment", "Sort logbook",
-              "Insert dive", "Edit dive", "Delete dive", "View logbook", "Logbook table",
-              "Search a word", "Search a number", "Full search", "Statistic", "Graph years",
-              "Graph month", "Unit calculations", "Calculations"}),
+      Combo1(*this, "Combo1", ComboBox::Style::ListOnly, windowsOfTheStart()),
       CommonDialog1(app.desktop(), {.title = "Load background image",
                                     .filter = "Graphics (*.bmp; *.dib; *.jpg; *.gif; *.wmf; "
                                               "*.emf)|*.bmp;*.jpg;*.gif;*.wmf;*.emf;*.dib"}),
@@ -39,6 +47,10 @@ Form18::Form18(Nautrel& app)
   Option2.MouseUp = [this] { Option2_MouseUp(); };
 }
 
+MDIForm1& Form18::frame() {
+  return app_.window<MDIForm1>();
+}
+
 void Form18::Form_Load() {
   placeInFrame(*this, app_.MDIForm1());
   showSettings();
@@ -54,7 +66,7 @@ void Form18::showSettings() {
       [&] { Picture1.setBackColor(toInt32(number(desktop().GetSetting("Colors", "Main")))); });
   resumeNext([&] { Combo1.setText(start("Window")); });
   resumeNext([&] { Text1.setText(start("Grafic")); });
-  if (!app_.MDIForm1().hasFreeSize()) return;
+  if (!frame().hasFreeSize()) return;
   Option2.setOn(true);
   enableSize(true);
   Label4.setCaption(start("Breite"));
@@ -69,7 +81,7 @@ void Form18::edited() {
 
 void Form18::showColor(long color) {
   Picture1.setBackColor(color);
-  app_.MDIForm1().setBackColor(color);
+  frame().setBackColor(color);
   edited();
 }
 
@@ -115,11 +127,10 @@ void Form18::Option2_MouseUp() {
 }
 
 void Form18::showFrameSize() {
-  const auto& frame = app_.MDIForm1();
-  Label4.setCaption(text(frame.Width()));
-  Label5.setCaption(text(frame.Height()));
-  Label6.setCaption(text(frame.Left()));
-  Label7.setCaption(text(frame.Top()));
+  Label4.setCaption(text(frame().Width()));
+  Label5.setCaption(text(frame().Height()));
+  Label6.setCaption(text(frame().Left()));
+  Label7.setCaption(text(frame().Top()));
 }
 
 // The settings are written first: a path that cannot be loaded ends the program and is kept.
@@ -139,7 +150,7 @@ void Form18::save() {
     start("Fenster", "Ben");
   }
   start("Grafic", Text1.text());
-  app_.MDIForm1().setPicture(desktop().LoadPicture(Text1.text()));
+  frame().setPicture(desktop().LoadPicture(Text1.text()));
 }
 
 void Form18::Command3_Click() {
@@ -153,7 +164,7 @@ void Form18::Command4_Click() {
 }
 
 void Form18::Command1_Click() {
-  app_.MDIForm1().applyBackground();
+  frame().applyBackground();
   Unload();
 }
 

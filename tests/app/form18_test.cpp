@@ -1,4 +1,4 @@
-#include "shell/Form18.h"
+#include "app/Form18.h"
 
 #include "platform/errors.h"
 #include "support/logbook.h"

@@ -2,24 +2,23 @@
 
 #include <vector>
 
-#include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/frame.h"
+#include "shell/FrameForm.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
-class Recordset;
+class Shell;
+struct WindowEntry;
 
 /// The main window's background as long as no setting says otherwise.
 inline constexpr long kStandardColor = 0xC0C0C0;
 
 /// The main window: it frames all others and hands every command to the window that carries it
 /// out.
-class MDIForm1 : public Form {
+class MDIForm1 : public FrameForm {
  public:
-  using App = Nautrel;
-  explicit MDIForm1(Nautrel& app);
+  static constexpr int kNumber = Windows::Main;
+  explicit MDIForm1(Shell& app);
 
   /// What stands for a size that was never chosen.
   static constexpr const char* kNoSize = "---";
@@ -38,33 +37,12 @@ class MDIForm1 : public Form {
   /// Colour and picture by the settings. Without a usable colour it is the standard one, and the
   /// picture is left alone; so it is when the setting's picture cannot be loaded.
   void applyBackground();
-  /// 0 default, 11 hourglass.
-  int MousePointer() const { return mousePointer_; }
-  void setMousePointer(int pointer);
 
-  /// Unloads every window of the exclusive set but Form<n>, in ascending order.
-  /// @{
-  void Startform2();
-  void Startform3();
-  void Startform4();
-  void Startform5();
-  void Startform6();
-  void Startform7();
-  void Startform8();
-  void Startform9();
-  void Startform10();
-  void Startform11();
-  void Startform12();
-  void Startform13();
-  void Startform14();
-  void Startform15();
-  void Startform20();
-  /// @}
+  /// Startform2 to Startform15 and Startform20: unloads every window of the exclusive set but the
+  /// one of that number, in ascending order.
+  void Startform(int number);
 
-  /// Enables or disables the nineteen menu items and twelve toolbar buttons that need dives.
-  void gateCommands(bool enabled);
-  /// Notes the window that the start opens by itself.
-  void setStartWindow(int number) { startWindow_ = number; }
+  void gateCommands(bool enabled) override;
   /// The desktop has given the main window its first size after it was shown: the window of the
   /// start takes the place that its command would give it now.
   void userSettled();
@@ -110,15 +88,11 @@ class MDIForm1 : public Form {
   MenuItem Menü6f{*this, "Menü6f", "S&tatistic"};
   MenuItem Menü6g{*this, "Menü6g", "&Year graph"};
   MenuItem Menü6h{*this, "Menü6h", "&Month graph"};
-  Menu Menü8{*this, "Menü8", "Kontexmenü2", false};
   MenuItem Menü8a{*this, "Menü8a", "View..."};
   MenuItem Menü8b{*this, "Menü8b", "Edit..."};
   MenuItem Menü8c{*this, "Menü8c", "Delete..."};
 
   Toolbar Toolbar1;
-  StatusBar StatusBar1;
-  PictureBox Picture1{*this, "Picture1"};
-  ProgressBar ProgressBar1{*this, "ProgressBar1"};
   CommonDialog CommonDialog1;
 
   /// What the look offers for "Cascade windows".
@@ -128,43 +102,17 @@ class MDIForm1 : public Form {
   void arrangeMenus();
   void bindCommands();
   void bindToolbar();
-  void startform(int kept);
-  void command(int number);
-  void showBeside(int number);
-  void insertDive(const char* refusal);
+  MenuItem* item(std::string_view name) const;
+  void command(const WindowEntry& window, const char* refusal);
   bool isSorted(int dives) const;
   void applySize();
   /// Shows the record dive whose number button the statistic's user pressed last.
-  void showRecordDive(int window);
-  Recordset& recordsOf(int window);
-  double currentNumberOf(int window);
+  template <class RecordForm>
+  void showRecordDive();
 
-  Nautrel& app_;
+  Shell& app_;
   long backColor_ = kStandardColor;
   nautrel::Picture picture_;
-  int mousePointer_ = 0;
-  int startWindow_ = 0;
 };
-
-/// The hourglass on the main window for the time of a block; a block that the end of the program
-/// leaves does not put it back.
-class Hourglass {
- public:
-  explicit Hourglass(MDIForm1& frame);
-  ~Hourglass();
-  Hourglass(const Hourglass&) = delete;
-  Hourglass& operator=(const Hourglass&) = delete;
-
- private:
-  MDIForm1& frame_;
-};
-
-/// How far left of the frame's middle and above it a child stands with its own, in twips: half of
-/// what frame, toolbar, status bar and menu take together.
-inline constexpr double kLeftOfMiddle = 90;
-inline constexpr double kAboveMiddle = 740;
-
-/// The place that every child window takes at its load, by the measures of frame and window.
-void placeInFrame(Form& child, const MDIForm1& frame);
 
 }  // namespace nautrel

@@ -8,29 +8,18 @@
 
 namespace nautrel {
 
-/// What a grid can be bound to: rows of texts, read one by one.
-class GridSource {
- public:
-  virtual ~GridSource() = default;
-  virtual std::vector<std::string> headings() = 0;
-  virtual int rowCount() = 0;
-  /// The texts of a row, counted from 0; flags as "True" and "False". Raises what the reading does.
-  virtual std::vector<std::string> row(int index) = 0;
-
-  /// The source has opened, or opened again.
-  Event Filled;
-};
+class DataControl;
 
 /// A table to look at: the names of the columns above, an empty fixed column at the left, and the
-/// rows of its source. Each row is read when it is first looked at, and kept.
+/// rows of its data control. Each row is read when it is first looked at, and kept.
 class Grid : public Control {
  public:
   using Control::Control;
   using Row = std::vector<std::string>;
 
-  /// Takes over what the source holds whenever it has opened. The source must outlive the grid's
-  /// use of it.
-  void setDataSource(GridSource& source);
+  /// Takes over what the data control holds whenever it has opened. It must outlive the grid's use
+  /// of it.
+  void setDataSource(DataControl& source);
 
   const std::vector<std::string>& headings() const { return headings_; }
   int rowCount() const { return static_cast<int>(rows_.size()); }
@@ -53,7 +42,7 @@ class Grid : public Control {
  private:
   void fill();
 
-  GridSource* source_ = nullptr;
+  DataControl* source_ = nullptr;
   std::vector<std::string> headings_;
   std::vector<std::optional<Row>> rows_;
   unsigned generation_ = 0;

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <memory>
 #include <string>
+#include <vector>
 
-#include "platform/program.h"
-#include "store/database.h"
+#include "app/MDIForm1.h"
+#include "shell/Shell.h"
 
 namespace nautrel {
 
@@ -29,23 +29,17 @@ class Form19;
 class Form20;
 class Form21;
 class Form22;
-class MDIForm1;
-class Modul1;
 
-/// The program itself: owns the shared state, the main window and all the others, and hands itself
-/// to them. Touching a window that is not loaded loads it.
-class Nautrel : public Program {
+/// The program itself: makes the main window and all the others, and hands itself to them.
+class Nautrel : public Shell {
  public:
-  explicit Nautrel(Desktop& desktop);
+  using Shell::Shell;
   ~Nautrel() override;
 
   /// Shows the splash, from which all the rest follows.
   void start();
 
-  class Modul1& Modul1() {
-    return *modul_;
-  }
-  class MDIForm1& MDIForm1();
+  class MDIForm1& MDIForm1() override;
   class Form1& Form1();
   class Form2& Form2();
   class Form3& Form3();
@@ -68,22 +62,11 @@ class Nautrel : public Program {
   class Form21& Form21();
   class Form22& Form22();
 
-  /// Loads and shows the child window of that number.
-  void show(int number);
-
-  Workspace& workspace() { return workspace_; }
-  /// The application path and "\Logbuch.mdb", joined by the platform's own separator.
-  std::string databasePath();
-  /// A file delivered beside the executable.
-  std::string besideExecutable(const std::string& fileName);
+  void show(int number) override;
 
  private:
-  void settle() override { workspace_.settle(); }
   /// The files that nothing the user saves may replace.
   std::vector<std::string> ownFiles();
-
-  Workspace workspace_;
-  std::unique_ptr<class Modul1> modul_;
 };
 
 }  // namespace nautrel

@@ -1,4 +1,4 @@
-#include "store/data_control.h"
+#include "data/data_control.h"
 
 #include "platform/errors.h"
 #include "platform/form.h"
@@ -7,10 +7,8 @@
 namespace nautrel {
 
 DataControl::DataControl(Form& form, std::string name, Workspace& workspace,
-                         std::string recordSource)
-    : Navigator(form, std::move(name)),
-      workspace_(workspace),
-      recordSource_(std::move(recordSource)) {}
+                         std::string_view recordSource)
+    : Navigator(form, std::move(name)), workspace_(workspace), recordSource_(recordSource) {}
 
 class Recordset& DataControl::Recordset() {
   if (!recordset_) raise(ObjectNotSet);

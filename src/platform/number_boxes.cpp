@@ -1,4 +1,4 @@
-#include "shell/number_boxes.h"
+#include "platform/number_boxes.h"
 
 #include "platform/desktop.h"
 #include "platform/errors.h"

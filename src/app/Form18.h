@@ -2,17 +2,19 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "shell/windows.h"
 
 namespace nautrel {
 
-class Nautrel;
+class MDIForm1;
+class Shell;
 
 /// "Preferences": the only writer of the settings. A colour shows in the main window at once, a
 /// picture when it is saved, a size at the next start.
 class Form18 : public Form {
  public:
-  using App = Nautrel;
-  explicit Form18(Nautrel& app);
+  static constexpr int kNumber = Windows::Preferences;
+  explicit Form18(Shell& app);
 
   void Form_Load() override;
   void Form_Unload() override;
@@ -54,13 +56,14 @@ class Form18 : public Form {
   CommonDialog CommonDialog1;
 
  private:
+  MDIForm1& frame();
   void showSettings();
   void edited();
   void showColor(long color);
   void enableSize(bool enabled);
   void save();
 
-  Nautrel& app_;
+  Shell& app_;
 };
 
 }  // namespace nautrel

@@ -1,10 +1,11 @@
-#include "platform/grid.h"
+#include "data/grid.h"
 
+#include "data/data_control.h"
 #include "platform/errors.h"
 
 namespace nautrel {
 
-void Grid::setDataSource(GridSource& source) {
+void Grid::setDataSource(DataControl& source) {
   source_ = &source;
   source.Filled = [this] { fill(); };
 }

@@ -1,8 +1,9 @@
-#include "shell/Form16.h"
+#include "app/Form16.h"
 
+#include "app/MDIForm1.h"
 #include "platform/text.h"
-#include "shell/MDIForm1.h"
-#include "shell/Nautrel.h"
+#include "shell/Shell.h"
+#include "shell/placing.h"
 
 namespace nautrel {
 namespace {
@@ -31,7 +32,7 @@ constexpr Bubble kBubbles[] = {{&Form16::Shape1, 24},
 
 }  // namespace
 
-Form16::Form16(Nautrel& app)
+Form16::Form16(Shell& app)
     : Form(app, "Form16", {.caption = "Info", .width = 6000, .height = 4200}), app_(app) {
   Picture1.holds(
       {&Label1, &Label2, &Label3, &Label4, &Label5, &Shape1, &Shape2, &Shape3, &Shape4, &Shape5});

@@ -5,16 +5,15 @@
 #include <vector>
 
 #include "platform/controls.h"
-#include "platform/grid.h"
 #include "store/database.h"
 
 namespace nautrel {
 
 /// A window's cursor over a table, with its navigator. It opens after Form_Load, on the first row.
-/// As the source of a grid it reads the rows beside its own, which a look at the grid never moves.
-class DataControl : public Navigator, public GridSource {
+/// What it reads for a grid is beside its own row, which a look at the grid never moves.
+class DataControl : public Navigator {
  public:
-  DataControl(Form& form, std::string name, Workspace& workspace, std::string recordSource);
+  DataControl(Form& form, std::string name, Workspace& workspace, std::string_view recordSource);
 
   void setDatabaseName(std::string path) { databaseName_ = std::move(path); }
   /// Raises 91 before the control has opened.
@@ -24,13 +23,19 @@ class DataControl : public Navigator, public GridSource {
 
   /// Raised after opening, Refresh and every move that ends on a row.
   Event Reposition;
+  /// Raised after opening and Refresh, for a grid.
+  Event Filled;
 
   void open() override { Refresh(); }
   void go(Arrow arrow) override;
 
-  std::vector<std::string> headings() override;
-  int rowCount() override;
-  std::vector<std::string> row(int index) override;
+  /// What a grid shows. A row counts from 0; its texts have flags as "True" and "False". Each
+  /// raises what the reading does.
+  /// @{
+  std::vector<std::string> headings();
+  int rowCount();
+  std::vector<std::string> row(int index);
+  /// @}
 
  private:
   class Recordset& reader();

@@ -1,4 +1,4 @@
-#include "search/RichTextBox.h"
+#include "platform/rich_text_box.h"
 
 #include "platform/text.h"
 

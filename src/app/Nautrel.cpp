@@ -1,7 +1,7 @@
-#include "shell/Nautrel.h"
+#include "app/Nautrel.h"
 
-#include <filesystem>
-
+#include "app/Form16.h"
+#include "app/Form18.h"
 #include "calculators/Form21.h"
 #include "calculators/Form22.h"
 #include "diver/Form15.h"
@@ -22,16 +22,22 @@
 #include "search/Form19.h"
 #include "search/Form20.h"
 #include "shell/Form1.h"
-#include "shell/Form16.h"
-#include "shell/Form18.h"
-#include "shell/MDIForm1.h"
-#include "shell/Modul1.h"
 #include "store/lock.h"
 
 namespace nautrel {
 
-Nautrel::Nautrel(Desktop& desktop)
-    : Program(desktop), modul_(std::make_unique<class Modul1>(*this)) {}
+namespace {
+
+template <class... Windows>
+void showOneOf(Nautrel& app, int number) {
+  ((number == Windows::kNumber ? app.window<Windows>().Show() : void()), ...);
+}
+
+constexpr auto showWindow =
+    showOneOf<Form2, Form3, Form4, Form5, Form6, Form7, Form8, Form9, Form10, Form11, Form12,
+              Form13, Form14, Form15, Form16, Form18, Form20, Form21, Form22>;
+
+}  // namespace
 
 // The windows hold on to the workspace, so they go first.
 Nautrel::~Nautrel() {
@@ -46,115 +52,74 @@ void Nautrel::start() {
 }
 
 class MDIForm1& Nautrel::MDIForm1() {
-  return window<class MDIForm1>(0);
+  return window<class MDIForm1>();
 }
 class Form1& Nautrel::Form1() {
-  return window<class Form1>(1);
+  return window<class Form1>();
 }
 class Form2& Nautrel::Form2() {
-  return window<class Form2>(2);
+  return window<class Form2>();
 }
 class Form3& Nautrel::Form3() {
-  return window<class Form3>(3);
+  return window<class Form3>();
 }
 class Form4& Nautrel::Form4() {
-  return window<class Form4>(4);
+  return window<class Form4>();
 }
 class Form5& Nautrel::Form5() {
-  return window<class Form5>(5);
+  return window<class Form5>();
 }
 class Form6& Nautrel::Form6() {
-  return window<class Form6>(6);
+  return window<class Form6>();
 }
 class Form7& Nautrel::Form7() {
-  return window<class Form7>(7);
+  return window<class Form7>();
 }
 class Form8& Nautrel::Form8() {
-  return window<class Form8>(8);
+  return window<class Form8>();
 }
 class Form9& Nautrel::Form9() {
-  return window<class Form9>(9);
+  return window<class Form9>();
 }
 class Form10& Nautrel::Form10() {
-  return window<class Form10>(10);
+  return window<class Form10>();
 }
 class Form11& Nautrel::Form11() {
-  return window<class Form11>(11);
+  return window<class Form11>();
 }
 class Form12& Nautrel::Form12() {
-  return window<class Form12>(12);
+  return window<class Form12>();
 }
 class Form13& Nautrel::Form13() {
-  return window<class Form13>(13);
+  return window<class Form13>();
 }
 class Form14& Nautrel::Form14() {
-  return window<class Form14>(14);
+  return window<class Form14>();
 }
 class Form15& Nautrel::Form15() {
-  return window<class Form15>(15);
+  return window<class Form15>();
 }
 class Form16& Nautrel::Form16() {
-  return window<class Form16>(16);
+  return window<class Form16>();
 }
 class Form18& Nautrel::Form18() {
-  return window<class Form18>(18);
+  return window<class Form18>();
 }
 class Form19& Nautrel::Form19() {
-  return window<class Form19>(19);
+  return window<class Form19>();
 }
 class Form20& Nautrel::Form20() {
-  return window<class Form20>(20);
+  return window<class Form20>();
 }
 class Form21& Nautrel::Form21() {
-  return window<class Form21>(21);
+  return window<class Form21>();
 }
 class Form22& Nautrel::Form22() {
-  return window<class Form22>(22);
+  return window<class Form22>();
 }
 
 void Nautrel::show(int number) {
-  switch (number) {
-    case 2:
-      return Form2().Show();
-    case 3:
-      return Form3().Show();
-    case 4:
-      return Form4().Show();
-    case 5:
-      return Form5().Show();
-    case 6:
-      return Form6().Show();
-    case 7:
-      return Form7().Show();
-    case 8:
-      return Form8().Show();
-    case 9:
-      return Form9().Show();
-    case 10:
-      return Form10().Show();
-    case 11:
-      return Form11().Show();
-    case 12:
-      return Form12().Show();
-    case 13:
-      return Form13().Show();
-    case 14:
-      return Form14().Show();
-    case 15:
-      return Form15().Show();
-    case 16:
-      return Form16().Show();
-    case 18:
-      return Form18().Show();
-    case 20:
-      return Form20().Show();
-    case 21:
-      return Form21().Show();
-    case 22:
-      return Form22().Show();
-    default:
-      return;
-  }
+  showWindow(*this, number);
 }
 
 // The database engine keeps its side files, and the lock its own, where a linked logbook really is.
@@ -170,15 +135,6 @@ std::vector<std::string> Nautrel::ownFiles() {
     files.push_back(std::string(logbook.begin(), logbook.end()) + side);
   }
   return files;
-}
-
-std::string Nautrel::databasePath() {
-  return besideExecutable("Logbuch.mdb");
-}
-
-std::string Nautrel::besideExecutable(const std::string& fileName) {
-  return desktop().applicationPath() +
-         static_cast<char>(std::filesystem::path::preferred_separator) + fileName;
 }
 
 }  // namespace nautrel

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "shell/Form18.h"
+#include "app/Form18.h"
 #include "support/logbook.h"
 
 namespace nautrel {
@@ -23,8 +23,8 @@ class StartWindow : public LogbookTest {
   }
   Texts openWindows() {
     Texts names;
-    for (const auto* form : app->loadedForms())
-      if (form->visible()) names.push_back(form->name());
+    if (app->MDIForm1().visible()) names.push_back("MDIForm1");
+    for (const auto* form : app->stack()) names.push_back(form->name());
     return names;
   }
 };

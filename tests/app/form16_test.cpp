@@ -1,4 +1,4 @@
-#include "shell/Form16.h"
+#include "app/Form16.h"
 
 #include "support/logbook.h"
 
