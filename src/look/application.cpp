@@ -34,8 +34,7 @@ int showFailure(const RunTimeError& failure) {
 }
 
 int refuse() {
-  showMessageBox(nullptr, QStringLiteral("This logbook is in use by another Nautrel program."),
-                 kExclamation, QString::fromUtf8(kApplicationTitle));
+  showMessageBox(nullptr, toQt(kLogbookInUse), kExclamation, QString::fromUtf8(kApplicationTitle));
   return 0;
 }
 

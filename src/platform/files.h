@@ -24,6 +24,12 @@ bool canBeWritten(const std::filesystem::path& path);
 bool sameName(const std::filesystem::path& one, const std::filesystem::path& other);
 bool mayWrite(const std::filesystem::path& file);
 bool mayMakeFileIn(const std::filesystem::path& folder);
+/// Brings a file's content, or the names in a folder, on the disk. False where that fails.
+bool syncToDisk(const std::filesystem::path& path);
+/// Gives a file another name under which nothing stands. False, without effect, where that fails.
+bool moveToFreeName(const std::filesystem::path& file, const std::filesystem::path& name);
+/// Lets the same people read and write a new file as one that it is to replace, as far as may be.
+void takeRights(const std::filesystem::path& from, const std::filesystem::path& file);
 /// @}
 
 }  // namespace nautrel

@@ -29,4 +29,23 @@ bool mayMakeFileIn(const std::filesystem::path& folder) {
   return opens(folder, FILE_ADD_FILE, FILE_FLAG_BACKUP_SEMANTICS);
 }
 
+// The names in a folder stand in the file system's own journal; only files are to be flushed.
+bool syncToDisk(const std::filesystem::path& path) {
+  std::error_code failed;
+  if (std::filesystem::is_directory(path, failed)) return true;
+  const HANDLE handle = CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) return false;
+  const bool flushed = FlushFileBuffers(handle) != 0;
+  CloseHandle(handle);
+  return flushed;
+}
+
+bool moveToFreeName(const std::filesystem::path& file, const std::filesystem::path& name) {
+  return MoveFileExW(file.c_str(), name.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+}
+
+// A new file has the rights of its folder, as the one before had.
+void takeRights(const std::filesystem::path&, const std::filesystem::path&) {}
+
 }  // namespace nautrel

@@ -115,11 +115,21 @@ Connection Connection::toRead(std::string path) {
   auto log = followLinks(file);
   log += "-wal";
   std::error_code failed;
+  if (hasLog(path)) return sparingLog(std::move(path));
   const bool mayLog = canBeWritten(file) && mayMakeFileIn(log.parent_path());
-  if (mayLog || fs::exists(log, failed) || !fs::is_regular_file(file, failed)) return {path, {}};
+  if (mayLog || fs::exists(log, failed) || !fs::is_regular_file(file, failed))
+    return {std::move(path), {}};
   requireLogbook(path);
   Connection made(std::move(path));
   made.open(unchanging(made.path_), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+  return made;
+}
+
+Connection Connection::sparingLog(std::string path) {
+  requireLogbook(path);
+  Connection made(std::move(path));
+  made.sparesLog_ = true;
+  made.open(made.path_, SQLITE_OPEN_READWRITE);
   return made;
 }
 
@@ -136,6 +146,7 @@ void Connection::open(const std::string& name, int flags) {
   handle_.reset(opened);
   if (code != SQLITE_OK) raiseFailure(code);
   sqlite3_busy_timeout(opened, kWaitForOthers);
+  if (sparesLog_) sqlite3_db_config(opened, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
   // A column that is gone would else be read as a text that holds its name.
   sqlite3_db_config(opened, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   // Reads the file for the first time, and so finds out whether it is a database.

@@ -25,7 +25,11 @@ class Connection : public std::enable_shared_from_this<Connection> {
   Connection(std::string path, std::weak_ptr<Unsettled> unsettled);
 
   /// Only looks, also where nothing can be written: then the file must be one that nobody has open.
+  /// A log that waits stays as it is.
   static Connection toRead(std::string path);
+  /// Leaves the log alone when it closes. The engine would drop what it cannot read of a log, and
+  /// the whole log of a file that is damaged.
+  static Connection sparingLog(std::string path);
 
   /// Makes the file if it is not there.
   static Connection create(std::string path);
@@ -70,6 +74,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
   bool logAhead_ = false;
   bool waits_ = false;     // for settle()
   bool lookOnly_ = false;  // on a full disk
+  bool sparesLog_ = false;
 };
 
 /// A prepared statement. Places count from 1 in bind(), columns from 0.

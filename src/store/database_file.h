@@ -18,7 +18,7 @@ void copyDatabase(const std::string& path, const std::string& copy);
 
 /// Writes what waits in the log into the file and takes the log away. Raises 3260 if any other
 /// program has the file open, 3027 if it cannot be written, 3026 (disk full), and 3343 or 51 where
-/// it is damaged; the log stays then as far as it is needed.
+/// it is damaged; the log stays then.
 void takeLogIn(const std::string& path);
 
 }  // namespace nautrel

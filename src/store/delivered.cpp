@@ -1,9 +1,9 @@
 #include "store/delivered.h"
 
 #include <filesystem>
-#include <random>
 #include <system_error>
 
+#include "platform/draft_file.h"
 #include "platform/errors.h"
 #include "store/connection.h"
 #include "store/contract.h"
@@ -15,24 +15,6 @@ namespace fs = std::filesystem;
 
 // For tools that look at files; a logbook without it is as good.
 constexpr int kApplicationId = 0x4E617574;  // "Naut"
-
-/// A file of its own beside the target, gone at the end whatever happens.
-class DraftFile {
- public:
-  explicit DraftFile(const std::string& target)
-      : path_(target + ".new" + std::to_string(std::random_device{}())) {}
-  ~DraftFile() {
-    std::error_code ignored;
-    fs::remove(fromUtf8(path_), ignored);
-  }
-  DraftFile(const DraftFile&) = delete;
-  DraftFile& operator=(const DraftFile&) = delete;
-
-  const std::string& path() const { return path_; }
-
- private:
-  std::string path_;
-};
 
 std::string creation(const Table& table) {
   std::string columns;

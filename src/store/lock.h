@@ -2,8 +2,13 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace nautrel {
+
+/// What a program says that finds the logbook held by another.
+inline constexpr std::string_view kLogbookInUse =
+    "This logbook is in use by another Nautrel program.";
 
 /// Tells the other programs on this machine that the logbook is in use. The system lets go of it at
 /// whatever death of the process, and no child process keeps it.
