@@ -88,6 +88,11 @@ std::string isoText(Date date) {
   return formatted("%04d-%02d-%02d", yearOf(date), monthOf(date), dayOf(date));
 }
 
+std::string momentText(const std::string& isoDate, int minuteOfDay) {
+  return isoDate + formatted("T%02d:%02d:%02d", minuteOfDay / kMinutesOfHour,
+                             minuteOfDay % kMinutesOfHour, 0);
+}
+
 std::optional<std::string> isoDate(const DiveRecord& dive) {
   const auto date = nearestDate(dive);
   return date ? std::optional(isoText(*date)) : std::nullopt;

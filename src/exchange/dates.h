@@ -30,6 +30,9 @@ bool hasRealDate(const DiveRecord& dive);
 std::optional<std::string> isoDate(const DiveRecord& dive);
 std::string isoText(Date date);
 
+/// "2001-03-05T14:30:00".
+std::string momentText(const std::string& isoDate, int minuteOfDay);
+
 /// Reads "2001-03-05T14:30:00" in the forms in which it occurs: without time, seconds or zone, with
 /// fractions, a blank for the T. The digits count, no zone moves them. Nothing for what is no date
 /// and for the year 1, which some programs write for an unknown one.

@@ -5,8 +5,8 @@
 #include "exchange/csv_writer.h"
 #include "exchange/dates.h"
 #include "exchange/dive_record.h"
-#include "exchange/logbook.h"
 #include "exchange/output_file.h"
+#include "exchange/uddf_writer.h"
 
 namespace nautrel::exchange {
 namespace {
@@ -62,6 +62,19 @@ void writeCsv(OutputFile& file, const Logbook& logbook, const Locale& locale,
   file.write(text);
 }
 
+void writeUddf(OutputFile& file, const Logbook& logbook, const Locale& locale,
+               const Progress& progress, ExportReport& report) {
+  UddfWriter writer(logbook, locale);
+  file.write(writer.head());
+  std::size_t done = 0;
+  for (const auto& dive : logbook.dives) {
+    tell(progress, done++, logbook.dives.size());
+    file.write(writer.dive(dive));
+  }
+  file.write(writer.tail());
+  report.notes = writer.notes();
+}
+
 }  // namespace
 
 std::vector<std::string> cannotCarry(const ExportOptions& options) {
@@ -86,7 +99,9 @@ ExportReport exportLogbook(Workspace& workspace, const std::string& logbook,
   if (options.format == Format::Csv) {
     writeCsv(file, content, locale, progress);
   } else {
-    throw Refused{"UDDF cannot be written yet."};
+    report.card = !isBlank(content.card);
+    report.equipment = static_cast<int>(content.equipment.size());
+    writeUddf(file, content, locale, progress, report);
   }
   file.commit();
   return report;

@@ -20,8 +20,9 @@ enum class Fate {
 struct PlannedDive {
   SourceDive source;  // record.texts[Feld::Nr] is the new number of a dive that is taken
   Fate fate = Fate::Taken;
-  std::string why;          // of what is not taken
-  std::string duplicateOf;  // the number of the stored dive; stays where the user insists
+  std::string why = {};  // of what is not taken
+  /// The number of the stored dive that this one repeats; stays where the user insists.
+  std::optional<std::string> duplicateOf = {};
   bool insisted = false;
   bool unwanted = false;
 };
@@ -71,9 +72,15 @@ class ImportPlan {
                const Progress& progress = {}) const;
 
  private:
+  void planDives(std::vector<SourceDive> dives, const std::vector<DiveRecord>& stored,
+                 const Locale& locale);
+  void planCard(TextRow card, const std::vector<TextRow>& stored, bool ours);
+  void planEquipment(std::vector<TextRow> pieces, std::vector<TextRow> stored, bool ours);
   void settleFates();
-  void planCard(const ImportSource& source, const TextRow& stored, bool asked);
-  void planEquipment(const ImportSource& source, const std::vector<TextRow>& stored, bool asked);
+  void requireUnchanged(Database& database) const;
+  bool appendDives(Database& database, const Progress& progress) const;
+  void storeCard(Database& database) const;
+  void appendEquipment(Database& database) const;
 
   std::vector<PlannedDive> dives_;
   TextRow card_;
@@ -81,7 +88,7 @@ class ImportPlan {
   std::vector<std::string> notes_;
   bool asItStands_ = false;
   int storedDives_ = 0;
-  std::string lastNumber_;  // as stored, empty without dives
+  Cell lastNumber_;  // as stored; Null without dives
   int firstNew_ = 1;
 };
 

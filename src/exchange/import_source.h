@@ -40,15 +40,15 @@ struct Change {
 
 /// A dive of a file, its values already those of the logbook's columns.
 struct SourceDive {
-  int line = 0;    // of the file, from 1
-  std::string id;  // empty where the file gives none
-  DiveRecord record;
+  int line = 0;         // of the file, from 1
+  std::string id = {};  // empty where the file gives none
+  DiveRecord record = {};
   /// Written by this program: its texts are taken verbatim.
   bool ours = false;
-  std::optional<int> minuteOfDay;  // for the order of a day
-  std::optional<int> number;       // the file's own, likewise
-  std::string leftOutBecause;      // not empty: something that a dive must have is missing
-  std::vector<Change> changes;
+  std::optional<int> minuteOfDay = {};  // for the order of a day
+  std::optional<int> number = {};       // the file's own, likewise
+  std::string leftOutBecause = {};      // not empty: something that a dive must have is missing
+  std::vector<Change> changes = {};
 };
 
 /// A file that has been read.

@@ -9,8 +9,8 @@ namespace nautrel::exchange {
 /// What goes out: the dives in stored order, and the card and the equipment where they are wanted.
 struct Logbook {
   std::vector<DiveRecord> dives;
-  TextRow card;
-  std::vector<TextRow> equipment;
+  TextRow card = {};
+  std::vector<TextRow> equipment = {};
 };
 
 }  // namespace nautrel::exchange

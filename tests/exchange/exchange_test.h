@@ -19,12 +19,29 @@ class Book {
   Book() { createDeliveredLogbook(path); }
 
   void add(const DiveRecord& dive) {
-    auto dives = workspace.OpenDatabase(path).OpenRecordset(Tabelle::Logbuch);
+    auto dives = table(Tabelle::Logbuch);
     appendDive(dives, dive);
+  }
+  void setCard(const TextRow& card) {
+    auto rows = table(Tabelle::Benutzer);
+    rows.Edit();
+    writeRow(rows, card);
+  }
+  void addPiece(const TextRow& piece) {
+    auto rows = table(Tabelle::Ausrüstung);
+    rows.AddNew();
+    writeRow(rows, piece);
+  }
+  TextRow card() { return readRow(table(Tabelle::Benutzer)); }
+  std::vector<TextRow> equipment() {
+    std::vector<TextRow> all;
+    for (auto rows = table(Tabelle::Ausrüstung); !rows.Eof(); rows.MoveNext())
+      all.push_back(readRow(rows));
+    return all;
   }
   std::vector<DiveRecord> dives() {
     std::vector<DiveRecord> all;
-    auto dives = workspace.OpenDatabase(path).OpenRecordset(Tabelle::Logbuch);
+    auto dives = table(Tabelle::Logbuch);
     for (; !dives.Eof(); dives.MoveNext()) all.push_back(readDive(dives));
     return all;
   }
@@ -34,6 +51,21 @@ class Book {
                        const Locale& locale = {}) {
     exportLogbook(workspace, path, folder.file(name), options, locale);
     return readFile(folder.file(name));
+  }
+
+  /// What an import of the file would do.
+  ImportPlan plan(const std::string& file, const Answers& answers = {}, const Locale& locale = {},
+                  const ImportOptions& options = {.card = true, .equipment = true}) {
+    return ImportPlan::make(*openSource(file), answers, workspace, path, locale, options);
+  }
+  ImportPlan planOf(const std::string& name, const std::string& content,
+                    const Answers& answers = {}) {
+    return plan(folder.write(name, content), answers);
+  }
+  void import(const ImportPlan& plan) { EXPECT_TRUE(plan.execute(workspace, path)); }
+
+  Recordset table(std::string_view name) {
+    return workspace.OpenDatabase(path).OpenRecordset(name);
   }
 
   TemporaryFolder folder;
@@ -51,6 +83,22 @@ inline DiveRecord plainDive(const std::string& number, const std::string& depth 
   dive.texts[Feld::Zeit] = "45";
   dive.texts[Feld::Tiefe] = depth;
   return dive;
+}
+
+/// Date and every column that holds something, flags by their names.
+inline std::string told(const PlannedDive& dive) {
+  if (dive.fate == Fate::LeftOut) return "left out: " + dive.why;
+  const auto& record = dive.source.record;
+  std::string text;
+  for (const int column : {Feld::Jahr, Feld::Monat, Feld::Tag}) text += record.text(column);
+  for (int column = Feld::Land; column < kDiveColumns; ++column) {
+    if (column >= Feld::Tag && column <= Feld::Jahr) continue;
+    const auto& name = diveColumn(column).name;
+    if (record.flags[column]) text.append(" +").append(name);
+    if (!record.text(column).empty())
+      text.append(" ").append(name).append("=").append(record.text(column));
+  }
+  return text;
 }
 
 /// The sentence with which a call is refused; empty if it is not.

@@ -1,0 +1,138 @@
+#include "exchange/uddf_values.h"
+
+#include <functional>
+
+#include "exchange/plain_text.h"
+#include "exchange/units.h"
+
+namespace nautrel::exchange {
+namespace {
+
+/// Some programs write bar or psi, one wrote litres: such numbers are none in pascals and m³.
+constexpr double kBarsBelow = 400;
+constexpr double kPsiUpTo = 6000;
+
+double pascalsOf(double pressure) {
+  if (pressure < kBarsBelow) return pressure * kPascalsOfBar;
+  return pressure <= kPsiUpTo ? pressure * kPascalsOfPsi : pressure;
+}
+
+double cubicMetresOf(double volume) {
+  return volume >= 1 ? volume * kCubicMetresOfLitre : volume;
+}
+
+void number(DiveFiller& filler, const StandardDive& told, int column, std::string_view unit,
+            const std::function<void(const std::string&, double)>& take) {
+  if (!told[column]) return;
+  if (const auto value = readFileNumber(*told[column]))
+    take(*told[column] + std::string(unit), *value);
+  else
+    filler.noNumber(column, *told[column]);
+}
+
+void fillNumbers(DiveFiller& filler, const StandardDive& told) {
+  using namespace Feld;
+  number(filler, told, Zeit, " s", [&](auto& text, double s) { filler.duration(text, s); });
+  number(filler, told, Tiefe, " m", [&](auto& text, double m) { filler.depth(text, m); });
+  number(filler, told, Höhe, " m", [&](auto& text, double m) { filler.altitude(text, m); });
+  number(filler, told, Blei, " kg", [&](auto& text, double kg) { filler.weight(text, kg); });
+  number(filler, told, Liter, "",
+         [&](auto& text, double volume) { filler.tankSize(text, cubicMetresOf(volume)); });
+  for (const int column : {Bars, Bare})
+    number(filler, told, column, "", [&](auto& text, double pressure) {
+      filler.pressure(column, text, pascalsOf(pressure));
+    });
+}
+
+bool isOneOf(const Cell& text, std::initializer_list<std::string_view> words) {
+  return text && std::find(words.begin(), words.end(), *text) != words.end();
+}
+
+void fillFlags(DiveFiller& filler, const StandardDive& told) {
+  using namespace Feld;
+  if (isOneOf(told[Salz], {"ocean-sea"})) filler.flag(Salz);
+  if (isOneOf(told[Salz], {"lake-quarry", "river-spring"})) filler.flag(Süß);
+  if (isOneOf(told[Ufer], {"beach-shore", "pier", "landside"})) filler.flag(Ufer);
+  if (isOneOf(told[Ufer], {"small-boat", "charter-boat", "live-aboard", "barge"}))
+    filler.flag(Boot);
+  if (isOneOf(told[Alu], {"aluminium", "aluminum"})) filler.flag(Alu);
+  if (isOneOf(told[Alu], {"steel"})) filler.flag(Stahl);
+}
+
+}  // namespace
+
+void fillFromStandard(DiveFiller& filler, SourceDive& dive, const StandardDive& told) {
+  using namespace Feld;
+  if (told[Nr]) dive.number = readWhole(*told[Nr]);
+  if (told[Tag]) filler.date(*told[Tag], readMoment(*told[Tag]));
+  filler.text(Lang, told[Lang].value_or(""));
+  fillNumbers(filler, told);
+  fillFlags(filler, told);
+  for (const int column : {Land, Platz, Buddy, Anzug, Grafik})
+    if (told[column]) filler.text(column, *told[column]);
+  // Where a program has no name of a city it repeats that of the site.
+  if (told[Ort] && told[Ort] != told[Platz]) filler.text(Ort, *told[Ort]);
+}
+
+void fillFromSite(DiveFiller& filler, DiveRecord& record, const UddfDefinitions::Site& site) {
+  constexpr double kSaltWater = 1010;
+  if (record.text(Feld::Ort).empty()) filler.text(Feld::Ort, site.city);
+  if (site.density >= kSaltWater && !record.flags[Feld::Süß]) filler.flag(Feld::Salz);
+}
+
+void fillFromSamples(DiveFiller& filler, const DiveRecord& record, const SampleSummary& samples) {
+  if (record.text(Feld::Tiefe).empty()) filler.depth("of the samples", samples.greatestDepth);
+  if (record.text(Feld::Zeit).empty()) filler.duration("of the samples", samples.lastTime);
+  if (samples.mandatoryStop) filler.flag(Feld::Deco);
+  if (!record.text(Feld::Bars).empty() || !samples.firstPressure) return;
+  filler.pressure(Feld::Bars, "of the samples", pascalsOf(*samples.firstPressure));
+  if (record.text(Feld::Bare).empty())
+    filler.pressure(Feld::Bare, "of the samples", pascalsOf(*samples.lastPressure));
+}
+
+std::string gasText(const UddfDefinitions::Mix* mix) {
+  constexpr double kAir = 21;
+  constexpr double kAlmost = 0.5;
+  if (mix == nullptr) return {};
+  if (mix->helium >= kAlmost)
+    return "trimix " + fixedText(mix->oxygen, 0) + "/" + fixedText(mix->helium, 0);
+  if (mix->oxygen <= 0 || std::abs(mix->oxygen - kAir) < kAlmost) return {};
+  return "EAN" + fixedText(mix->oxygen, 0);
+}
+
+std::string tankText(std::string_view volume, std::string_view begin, std::string_view end) {
+  const auto size = cubicMetresOf(readFileNumber(volume).value_or(0));
+  const auto from = pascalsOf(readFileNumber(begin).value_or(0));
+  const auto to = pascalsOf(readFileNumber(end).value_or(0));
+  std::string text;
+  if (size > 0) text = fixedText(size / kCubicMetresOfLitre, 1) + " l";
+  if (from > 0 || to > 0)
+    text += (text.empty() ? "" : ", ") + fixedText(from / kPascalsOfBar, 0) + "-" +
+            fixedText(to / kPascalsOfBar, 0) + " bar";
+  return text;
+}
+
+void tellTemperature(DiveFiller& filler, const std::string& label, std::string_view kelvin) {
+  const auto temperature = readFileNumber(kelvin);
+  if (!temperature || *temperature <= 0) return;
+  // Some programs write degrees Celsius.
+  constexpr double kColdest = 150;
+  const double celsius = *temperature < kColdest ? *temperature : *temperature - kZeroCelsius;
+  filler.line(label + ": " + fixedText(celsius, 1) + " °C (" + fixedText(celsius * 1.8 + 32, 0) +
+              " °F)");
+}
+
+void takeEdited(SourceDive& dive, const SourceDive& edited, int column) {
+  for (const int each : columnsToldBy(column)) {
+    dive.record.flags[each] = edited.record.flags[each];
+    if (diveColumn(each).isFlag) continue;
+    auto& text = dive.record.texts[each];
+    const auto& now = edited.record.texts[each];
+    if (text == now || !now || now->empty()) continue;
+    dive.changes.push_back({std::string(diveColumn(each).label), text.value_or(""), *now,
+                            "changed in another program"});
+    text = now;
+  }
+}
+
+}  // namespace nautrel::exchange

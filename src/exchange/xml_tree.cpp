@@ -1,0 +1,84 @@
+#include "exchange/xml_tree.h"
+
+#include "exchange/plain_text.h"
+
+namespace nautrel::exchange {
+namespace {
+
+constexpr std::size_t kMostElements = 100'000;
+constexpr std::string_view kParagraph = "para";
+
+/// Those by which elements are found or understood.
+constexpr std::string_view kAttributes[] = {"id",  "ref",   "n",        "enc",
+                                            "dec", "xmlns", "currency", "kind"};
+
+void takeParagraph(XmlElement& parent, XmlElement paragraph) {
+  if (trimmed(parent.text).empty() && parent.paragraphs == 0)
+    parent.text = std::move(paragraph.text);
+  else
+    (parent.text += '\n') += paragraph.text;
+  ++parent.paragraphs;
+  for (auto& child : paragraph.children) parent.children.push_back(std::move(child));
+}
+
+}  // namespace
+
+std::string_view XmlElement::attribute(std::string_view wanted) const {
+  for (const auto& [key, value] : attributes)
+    if (key == wanted) return value;
+  return {};
+}
+
+const XmlElement* XmlElement::child(std::string_view wanted) const {
+  for (const auto& each : children)
+    if (each.name == wanted) return &each;
+  return nullptr;
+}
+
+const XmlElement* XmlElement::find(std::string_view wanted) const {
+  if (const auto* own = child(wanted)) return own;
+  for (const auto& each : children)
+    if (const auto* found = each.find(wanted)) return found;
+  return nullptr;
+}
+
+std::string_view XmlElement::textOf(std::string_view wanted) const {
+  const auto* found = find(wanted);
+  return found == nullptr ? std::string_view() : trimmed(found->text);
+}
+
+void XmlCollector::begin(std::string_view name, const XmlAttributes& attributes, int line) {
+  if (open_.empty()) count_ = 0;
+  if (name != kParagraph && ++count_ > kMostElements)
+    throw Refused{"Too many elements in <" + open_.front().name + "> of line " +
+                  std::to_string(open_.front().line) + "."};
+  auto& element = open_.emplace_back();
+  element.name = name;
+  element.line = line;
+  for (const auto key : kAttributes)
+    if (const auto value = attributes[key]; !value.empty())
+      element.attributes.emplace_back(key, value);
+}
+
+void XmlCollector::text(std::string_view text) {
+  auto& element = open_.back();
+  // What stands between paragraphs is but their layout.
+  if (element.paragraphs > 0 && trimmed(text).empty()) return;
+  element.text += text;
+}
+
+bool XmlCollector::end() {
+  auto element = std::move(open_.back());
+  open_.pop_back();
+  if (open_.empty()) {
+    root_ = std::move(element);
+    return true;
+  }
+  if (element.name == kParagraph)
+    takeParagraph(open_.back(), std::move(element));
+  else
+    open_.back().children.push_back(std::move(element));
+  return false;
+}
+
+}  // namespace nautrel::exchange
