@@ -36,14 +36,7 @@ DiveEntryForm::DiveEntryForm(Shell& app, std::string name, Design design,
 void DiveEntryForm::placeOnPages() {
   SSTab1.pageHolds(2, {&Frame1, &Frame2, &Frame3, &Frame5});
   SSTab1.pageHolds(3, {&Command5, &Image4});
-  placeColumns(*this, {{&SSTab1, 0},
-                       {&SSTab1, 1},
-                       {&SSTab1, 2},
-                       {&Frame1, 0},
-                       {&Frame2, 0},
-                       {&Frame3, 0},
-                       {&Frame5, 0},
-                       {&SSTab1, 3}});
+  placeColumns(*this, {&Frame1, &Frame2, &Frame3, &Frame5});
 }
 
 // The number is the program's own. The repetitive dive is the one mark whose click is no edit.
@@ -61,34 +54,28 @@ void DiveEntryForm::bindColumns() {
   Check7.Click = nullptr;
 }
 
+void DiveEntryForm::bindRule(TextBox& box, const Event& rule) {
+  box.Change = [this, rule] {
+    rule();
+    edited();
+  };
+}
+
 void DiveEntryForm::bindDate() {
-  Text5.Change = [this] {
-    jumpAbove(Text5, 9, Text6);
-    edited();
-  };
-  Text6.Change = [this] {
-    jumpAbove(Text6, 9, Text7);
-    edited();
-  };
-  Text7.Change = [this] {
-    jumpAbove(Text7, 999, Text8);
-    edited();
-  };
+  bindRule(Text5, [this] { jumpAbove(Text5, 9, Text6); });
+  bindRule(Text6, [this] { jumpAbove(Text6, 9, Text7); });
+  bindRule(Text7, [this] { jumpAbove(Text7, 999, Text8); });
   Text5.LostFocus = [this] { leaveDatePart(Text5, 31, "Day is not valid"); };
   Text6.LostFocus = [this] { leaveDatePart(Text6, 12, "Month is not valid"); };
   Text7.LostFocus = [this] { leaveYear(); };
 }
 
 void DiveEntryForm::bindNumbers() {
-  Text9.Change = [this] {
+  bindRule(Text9, [this] {
     keepNotNegative(Text9);
     resumeNext([&] { Text9.setText(text(toInt16(number(Text9.text())))); });
-    edited();
-  };
-  Text10.Change = [this] {
-    keepNotNegative(Text10);
-    edited();
-  };
+  });
+  bindRule(Text10, [this] { keepNotNegative(Text10); });
   Text9.LostFocus = [this] { leaveDiveTime(); };
   Text10.LostFocus = [this] { leaveDepth(); };
 }
@@ -144,6 +131,12 @@ void DiveEntryForm::Felder() {
   if (missing.empty()) return;
   Text12.setText("ende");
   MsgBox(missing + "could not be empty!");
+}
+
+bool DiveEntryForm::complete() {
+  Text12.setText("");
+  Felder();
+  return Text12.text() != "ende";
 }
 
 void DiveEntryForm::browse() {

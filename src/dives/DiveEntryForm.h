@@ -72,11 +72,15 @@ class DiveEntryForm : public Form {
   /// After the rule of a box has run, and after a click on an option or a check box.
   virtual void edited() {}
 
+  /// Whether the required boxes are filled; if not, the user has been told.
+  bool complete();
+
   Shell& app_;
 
  private:
   void placeOnPages();
   void bindColumns();
+  void bindRule(TextBox& box, const Event& rule);
   void bindDate();
   void bindNumbers();
   void jumpAbove(const TextBox& box, double limit, TextBox& next);

@@ -70,9 +70,7 @@ void Form2::Speichern() {
 }
 
 void Form2::Command1_Click() {
-  Text12.setText("");
-  Felder();
-  if (Text12.text() != "ende") {
+  if (complete()) {
     Speichern();
     if (number(Text1.text()) > kLastButOneNumber) {
       MsgBox(
@@ -97,9 +95,7 @@ void Form2::prepareNextDive() {
 
 // With a required box empty the window closes all the same and the input is dropped.
 void Form2::Command2_Click() {
-  Text12.setText("");
-  Felder();
-  if (Text12.text() != "ende") {
+  if (complete()) {
     Speichern();
     Text20.setText("");
   }

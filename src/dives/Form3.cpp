@@ -20,14 +20,7 @@ Form3::Form3(Shell& app)
   SSTab1.pageHolds(0, {&List1});
   SSTab1.pageHolds(2, {&Frame3, &Frame5});
   SSTab1.pageHolds(3, {&Image4, &Image5});
-  placeColumns(*this, {{&SSTab1, 0},
-                       {&SSTab1, 1},
-                       {&SSTab1, 2},
-                       {&SSTab1, 2},
-                       {&SSTab1, 2},
-                       {&Frame3, 0},
-                       {&Frame5, 0},
-                       {&SSTab1, 3}});
+  placeColumns(*this, {nullptr, nullptr, &Frame3, &Frame5});
   setTabOrder({&List1, &Command1, &Command3, &SSTab1});
   Command3.setCancel();
   Data1.Reposition = [this] { Data1_Reposition(); };

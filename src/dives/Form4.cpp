@@ -89,12 +89,6 @@ void Form4::Speichern() {
   dive.Update();
 }
 
-bool Form4::complete() {
-  Text12.setText("");
-  Felder();
-  return Text12.text() != "ende";
-}
-
 void Form4::Command1_Click() {
   if (!complete()) return;
   Speichern();

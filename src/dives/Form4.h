@@ -38,8 +38,6 @@ class Form4 : public DiveEntryForm {
  private:
   void selectTextOnEntry();
   void showRow();
-  /// Whether the required boxes are filled; if not, the user has been told.
-  bool complete();
 };
 
 }  // namespace nautrel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <span>
 #include <string>
 #include <utility>
@@ -19,8 +20,8 @@ struct Locale;
 /// A column of a dive in the windows that enter, show, edit and search it: what they do with it
 /// runs over these.
 struct DiveColumn {
-  /// A page of the windows, or a frame on one.
-  enum Place { General, Comments, SeveralInfo, Water, Entry, Tank, Visibility, Graphic };
+  /// A page of the windows, or a frame on the third.
+  enum Place { General, Comments, SeveralInfo, Graphic, Water, Entry, Tank, Visibility };
   /// What a flag that is Yes reads as.
   struct Words {
     const char* view = nullptr;
@@ -67,11 +68,15 @@ void eachColumn(Window& window, Calls... calls) {
         column.in(window));
 }
 
-/// Puts each column's control on its page or into its frame; the holders stand by their place.
+/// Puts each column's control on its page, or into its frame where the window has one: for Water,
+/// Entry, Tank and Visibility.
 template <class Window>
-void placeColumns(Window& window, const std::pair<const Control*, int> (&holders)[8]) {
+void placeColumns(Window& window, const std::array<const Frame*, 4>& frames) {
   eachColumn(window, [&](const DiveColumn& column, auto& control) {
-    control.setContainer(*holders[column.place].first, holders[column.place].second);
+    const bool framed = column.place >= DiveColumn::Water;
+    const auto* frame = framed ? frames[column.place - DiveColumn::Water] : nullptr;
+    if (frame != nullptr) return control.setContainer(*frame);
+    control.setContainer(window.SSTab1, framed ? DiveColumn::SeveralInfo : column.place);
   });
 }
 

@@ -1,5 +1,4 @@
 #include "dives/Form2.h"
-#include "dives/Form4.h"
 #include "support/logbook.h"
 
 namespace nautrel {
@@ -129,14 +128,13 @@ TEST_F(DiveFields, DoubtfulValuesAskAndNoReturnsTheFocus) {
   EXPECT_FALSE(form.Check2.on());
 }
 
-TEST_F(DiveFields, EnterMakesALineInTheCommentsAloneAndTheMarkerIsSet) {
+TEST_F(DiveFields, EnterMakesALineInTheCommentsAlone) {
   auto& form = open();
   choose(form.SSTab1, 1);
   type(form.Text11, "a");
   press(form, Key::Enter);
   typeOn(form, "b");
   EXPECT_EQ(form.Text11.text(), "a\nb");
-  EXPECT_EQ(form.Text20.text(), "geändert");
   choose(form.SSTab1, 0);
   EXPECT_TRUE(form.Command1.isDefault());
 }
@@ -145,56 +143,6 @@ TEST_F(DiveFields, ABoxTakesNoMoreThanItHolds) {
   auto& form = open();
   paste(form.Text2, "Äußere Hebriden, Schottland");
   EXPECT_EQ(form.Text2.text(), "Äußere Hebriden, Sch");
-}
-
-// The edited row begins with other marks than those that are set, the inserted one with none.
-TEST_F(DiveFields, EveryBoxAndMarkReachesItsColumnFromEitherWindow) {
-  using Fields = DiveEntryForm;
-  const auto path = std::string(300, 'x');
-  const struct {
-    int page;
-    TextBox Fields::*box;
-    std::string name, text;
-  } entries[] = {{0, &Fields::Text2, "Land", "Egypt"},   {0, &Fields::Text3, "Ort", "Dahab"},
-                 {0, &Fields::Text4, "Platz", "Canyon"}, {0, &Fields::Text5, "Tag", "31"},
-                 {0, &Fields::Text6, "Monat", "12"},     {0, &Fields::Text7, "Jahr", "1999"},
-                 {0, &Fields::Text8, "Buddy", "Anna"},   {0, &Fields::Text9, "Zeit", "61"},
-                 {0, &Fields::Text10, "Tiefe", "99.5"},  {1, &Fields::Text11, "Lang", "Hai"},
-                 {2, &Fields::Text17, "Liter", "100"},   {2, &Fields::Text13, "Bars", "2900"},
-                 {2, &Fields::Text18, "Bare", "700"},    {2, &Fields::Text14, "Wetter", "rain"},
-                 {2, &Fields::Text15, "Anzug", "dry"},   {2, &Fields::Text16, "Höhe", "300 ft"},
-                 {2, &Fields::Text19, "Blei", "9"},      {3, &Fields::Text21, "Grafik", "hai.jpg"}};
-  const auto enter = [&](DiveEntryForm& form) {
-    for (const auto& [page, box, name, text] : entries) {
-      choose(form.SSTab1, page);
-      type(form.*box, text);
-    }
-    choose(form.SSTab1, 2);
-    for (auto* option : {&form.Option1, &form.Option3, &form.Option5, &form.Option9})
-      click(*option);
-    click(form.Check6);
-    click(form.Check7);
-  };
-  auto dive = someDive(1);
-  for (const auto* mark : {"Süß", "Boot", "Stahl", "Sichtm", "Deco"}) dive[mark] = true;
-  add(dive);
-  enter(open());
-  click(app->Form2().Command2);
-  EXPECT_FALSE(app->loaded(2));
-  click(app->MDIForm1().Menü2b);
-  enter(app->Form4());
-  choose(app->Form4().SSTab1, 3);
-  paste(app->Form4().Text21, path);
-  click(app->Form4().Command2);
-  EXPECT_FALSE(app->loaded(4));
-
-  for (const auto& [page, box, name, text] : entries)
-    EXPECT_EQ(column(name), (Texts{name == "Grafik" ? path : text, text}));
-  EXPECT_EQ(rows("Logbuch", {"Salz", "Süß", "Ufer", "Boot", "Alu", "Stahl", "Sichtg", "Sichtm",
-                             "Sichts", "Deco", "Rep"}),
-            (std::vector<Texts>{
-                {"Yes", "No", "Yes", "No", "Yes", "No", "No", "No", "Yes", "No", "Yes"},
-                {"Yes", "No", "Yes", "No", "Yes", "No", "No", "No", "Yes", "Yes", "Yes"}}));
 }
 
 }  // namespace

@@ -154,19 +154,6 @@ TEST_F(ViewLogbook, FlagsShowTheirWordsAndOfAPairTheSecondWins) {
   EXPECT_FALSE(form.Image1.visible() || form.Image3.visible());
 }
 
-TEST_F(ViewLogbook, EveryColumnReachesItsBox) {
-  const std::pair<TextBox Form3::*, const char*> boxes[] = {
-      {&Form3::Text2, "Land"},  {&Form3::Text3, "Ort"},     {&Form3::Text4, "Platz"},
-      {&Form3::Text9, "Zeit"},  {&Form3::Text10, "Tiefe"},  {&Form3::Text8, "Buddy"},
-      {&Form3::Text11, "Lang"}, {&Form3::Text17, "Liter"},  {&Form3::Text13, "Bars"},
-      {&Form3::Text18, "Bare"}, {&Form3::Text14, "Wetter"}, {&Form3::Text15, "Anzug"},
-      {&Form3::Text16, "Höhe"}, {&Form3::Text19, "Blei"},   {&Form3::Text12, "Grafik"}};
-  auto dive = someDive(4);
-  for (const auto& [box, name] : boxes) dive[name] = std::string("my ") + name;
-  auto& form = openWith(dive);
-  for (const auto& [box, name] : boxes) EXPECT_EQ((form.*box).text(), std::string("my ") + name);
-}
-
 TEST_F(ViewLogbook, APictureThatIsGoneOrRubbishLeavesNoneOnShow) {
   const auto picture = folder.write("reef.jpg", "picture");
   add({{"Nr", "1"}, {"Grafik", picture}});

@@ -7,12 +7,6 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-const Columns kFlags{"Salz",   "Süß",    "Ufer",   "Boot", "Alu", "Stahl",
-                     "Sichtg", "Sichtm", "Sichts", "Deco", "Rep"};
-const Columns kTexts{"Nr",     "Land",  "Ort",   "Platz", "Tag",   "Monat", "Jahr",
-                     "Zeit",   "Tiefe", "Buddy", "Lang",  "Liter", "Bars",  "Bare",
-                     "Wetter", "Anzug", "Höhe",  "Blei",  "Grafik"};
-
 class EditDives : public LogbookTest {
  protected:
   Form4& open() {
@@ -21,15 +15,6 @@ class EditDives : public LogbookTest {
   }
 };
 
-Dive fullDive() {
-  auto dive = someDive(1);
-  for (int value = 70; const auto* name : {"Buddy", "Lang", "Wetter", "Anzug", "Liter", "Bars",
-                                           "Bare", "Höhe", "Blei", "Grafik"})
-    dive[name] = std::to_string(value++);
-  for (const auto* flag : {"Süß", "Boot", "Stahl", "Sichtm", "Deco"}) dive[flag] = true;
-  return dive;
-}
-
 TEST_F(EditDives, OpensOnTheFirstDiveWithItsTextSelected) {
   addDives(5, 7);
   auto& form = open();
@@ -37,38 +22,12 @@ TEST_F(EditDives, OpensOnTheFirstDiveWithItsTextSelected) {
   EXPECT_EQ(form.activeControl(), &form.Text2);
   typeOn(form, "Malta");
   EXPECT_EQ(form.Text2.text(), "Malta");
-  type(form.Text4, "Blue Hole");
-  EXPECT_EQ(form.Text4.text(), "Blue Hole");
   choose(form.SSTab1, 1);
   type(form.Text11, "a");
   focus(form.Command4);
   type(form.Text11, "b");
   press(form, Key::Enter);
   EXPECT_EQ(form.Text11.text(), "b\n");
-  EXPECT_EQ(form.Text20.text(), "");
-}
-
-TEST_F(EditDives, SavingAnUntouchedDiveWritesWhatWasThere) {
-  add(fullDive());
-  addDives(2, 2);
-  auto& form = open();
-  const auto texts = rows("Logbuch", kTexts);
-  const auto flags = rows("Logbuch", kFlags);
-  click(form.Command1);
-  EXPECT_EQ(form.caption(), "Edit dives - Number 2");
-  EXPECT_FALSE(form.Option2.on() || form.Check6.on());
-  EXPECT_EQ(rows("Logbuch", kTexts), texts);
-  EXPECT_EQ(rows("Logbuch", kFlags), flags);
-}
-
-TEST_F(EditDives, ADoubleClickClearsAnOption) {
-  add(fullDive());
-  auto& form = open();
-  choose(form.SSTab1, 2);
-  for (auto* option : {&form.Option2, &form.Option3}) doubleClick(*option);
-  click(form.Command1);
-  EXPECT_EQ(rows("Logbuch", {"Salz", "Süß", "Ufer", "Boot"}),
-            (std::vector<Texts>{{"No", "No", "No", "No"}}));
 }
 
 TEST_F(EditDives, ARowOfAnotherToolShowsThroughTheRulesOfTheBoxes) {

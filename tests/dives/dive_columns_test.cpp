@@ -1,0 +1,136 @@
+#include <set>
+
+#include "dives/Form2.h"
+#include "dives/Form3.h"
+#include "dives/Form4.h"
+#include "store/contract.h"
+#include "support/logbook.h"
+
+namespace nautrel {
+namespace {
+
+using Arrow = Navigator::Arrow;
+using Texts = std::vector<std::string>;
+
+/// Types into all boxes and presses all marks that there are, and holds what comes of it against
+/// the contract of the store: a column that a window forgets is missed.
+class DiveColumns : public LogbookTest {
+ protected:
+  std::vector<Texts> stored(Kind kind) {
+    Columns names;
+    for (const auto& column : logbookTables().front().columns)
+      if (column.kind == kind && column.name != "Nr") names.emplace_back(column.name);
+    return rows("Logbuch", names);
+  }
+  /// What is typed into a box: once in Insert, and again in Edit.
+  static std::string text(const std::string& box, bool again) {
+    using Odd = std::map<std::string, std::string>;
+    const auto odd = again ? Odd{{"Text5", "15"},
+                                 {"Text6", "11"},
+                                 {"Text7", "2008"},
+                                 {"Text21", std::string(300, 'x')}}
+                           : Odd{{"Text6", "12"}, {"Text7", "2007"}};
+    const auto found = odd.find(box);
+    if (found != odd.end()) return found->second;
+    return std::to_string(std::stoi(box.substr(4)) + (again ? 50 : 20));
+  }
+  std::vector<Texts> texts(bool again) const {
+    Texts dive;
+    for (const auto& box : boxes) dive.push_back(text(box, again));
+    return std::vector<Texts>(marks.size(), dive);
+  }
+
+  void enter(DiveEntryForm& form, const std::string& mark, bool again) {
+    const auto reach = [&](const std::string& name) {
+      auto* control = form.control(name);
+      for (int page = 0; !control->canTakeFocus() && page < 4; ++page) choose(form.SSTab1, page);
+      return control;
+    };
+    const auto expectEdited = [&](const std::string& name) {
+      EXPECT_EQ(form.Text20.text() == "geändert", !again && name != "Check7") << name;
+      form.Text20.setText("");
+    };
+    for (const auto& box : boxes) {
+      focus(*reach(box));
+      typeOn(form, text(box, again));
+      expectEdited(box);
+    }
+    auto* pressed = reach(mark);
+    if (auto* check = dynamic_cast<CheckBox*>(pressed)) click(*check);
+    if (auto* option = dynamic_cast<OptionButton*>(pressed))
+      again ? doubleClick(*option) : click(*option);
+    expectEdited(mark);
+  }
+
+  /// By column; what the window has more is for columns behind these.
+  Texts boxes = {"Text2",  "Text3",  "Text4",  "Text5",  "Text6",  "Text7",
+                 "Text9",  "Text10", "Text8",  "Text11", "Text17", "Text13",
+                 "Text18", "Text14", "Text15", "Text16", "Text19", "Text21"};
+  Texts marks = {"Option1", "Option2", "Option3", "Option4", "Check6", "Option5",
+                 "Option6", "Option7", "Option8", "Option9", "Check7"};
+};
+
+TEST_F(DiveColumns, AllOfTheContractComeBackFromInsertViewAndEdit) {
+  start();
+  for (auto* control : app->Form4().controls()) {
+    const auto* box = dynamic_cast<TextBox*>(control);
+    const bool isMark = dynamic_cast<CheckBox*>(control) || dynamic_cast<OptionButton*>(control);
+    auto& names = isMark ? marks : boxes;
+    if (!isMark && (!box || box->locked() || !box->visible())) continue;
+    if (std::find(names.begin(), names.end(), control->name()) == names.end())
+      names.push_back(control->name());
+  }
+  auto flags = std::vector<Texts>(marks.size(), Texts(marks.size(), "No"));
+  for (std::size_t dive = 0; dive < marks.size(); ++dive) {
+    flags[dive][dive] = "Yes";
+    click(app->MDIForm1().Menü2a);
+    enter(app->Form2(), marks[dive], false);
+    click(app->Form2().Command2);
+  }
+  EXPECT_EQ(stored(Kind::Text), texts(false));
+  EXPECT_EQ(stored(Kind::Flag), flags);
+
+  click(app->MDIForm1().Menü3a);
+  auto& view = app->Form3();
+  const auto face = [&] {
+    Texts shown;
+    for (auto* control : view.controls())
+      if (auto* label = dynamic_cast<Label*>(control))
+        shown.push_back(label->caption());
+      else if (dynamic_cast<Image*>(control))
+        shown.push_back(control->visible() ? "Yes" : "No");
+    return shown;
+  };
+  view.Leeren();
+  std::set<Texts> faces{face()};  // a flag shows where there is another face
+  press(view.Data1, Arrow::First);
+  for (const auto& mark : marks) {
+    EXPECT_TRUE(faces.insert(face()).second) << mark;
+    EXPECT_EQ(view.Text5.text(), "25.12.2007");
+    std::set<std::string> shown{"25", "12", "2007"};
+    for (auto* control : view.controls())
+      if (const auto* box = dynamic_cast<TextBox*>(control)) shown.insert(box->text());
+    for (const auto& box : boxes) {
+      EXPECT_TRUE(shown.contains(text(box, false))) << box;
+      const auto* same = dynamic_cast<TextBox*>(view.control(box));
+      EXPECT_TRUE(!same || same == &view.Text5 || same->text() == text(box, false)) << box;
+    }
+    press(view.Data1, Arrow::Next);
+  }
+
+  for (const bool again : {false, true}) {
+    click(app->MDIForm1().Menü2b);
+    auto& form = app->Form4();
+    for (const auto& mark : marks) {
+      if (again) enter(form, mark, again);
+      click(form.Command1);
+    }
+    close(form);
+    if (again) flags.assign(marks.size(), Texts(marks.size(), "No"));
+    EXPECT_EQ(stored(Kind::Text), texts(again));
+    EXPECT_EQ(stored(Kind::Flag), flags);
+  }
+}
+
+}  // namespace
+}  // namespace nautrel
