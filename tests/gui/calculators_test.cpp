@@ -4,6 +4,7 @@
 
 #include "calculators/Form21.h"
 #include "calculators/Form22.h"
+#include "evaluation/Form6.h"
 #include "gui/gui_test.h"
 #include "look/pictures/scene_view.h"
 
@@ -78,27 +79,30 @@ TEST_F(Calculators, PaintTheAirAsHighAsItStands) {
   EXPECT_EQ(colorAt(view, frame, 2160, 1700), water);
 }
 
-TEST_F(GuiTest, AResultTooLongForItsLabelIsElidedAndToldWholeInAToolTip) {
+TEST_F(GuiTest, AFigureTooLongForItsLabelIsElidedAndToldWholeInAToolTip) {
+  add({{"Nr", "1"}, {"Zeit", "9E99"}, {"Tiefe", "9E99"}});
   auto& form = open(&MDIForm1::Menü7c, &Nautrel::Form22);
-  auto& label = widget<QLabel>(form.Label11);
   const auto size = window(form)->size();
-  const auto text = [&] { return fromQt(QToolTip::isVisible() ? QToolTip::text() : QString()); };
-  const auto point = [&] {
+  const auto told = [&](Label& figure) {
+    auto& label = widget<QLabel>(figure);
+    EXPECT_TRUE(label.parentWidget()->rect().contains(label.geometry()));
     QHelpEvent help(QEvent::ToolTip, {2, 2}, label.mapToGlobal(QPoint(2, 2)));
     QApplication::sendEvent(&label, &help);
+    return fromQt(QToolTip::isVisible() ? QToolTip::text() : QString());
   };
   click(form.Command1);
   settle();
-  point();
-  EXPECT_EQ(text(), "") << form.Label11.caption();
+  EXPECT_EQ(told(form.Label11), "") << form.Label11.caption();
   form.Text1.setText("9E9");
   form.Text3.setText("9E9");
   click(form.Command1);
   settle();
   EXPECT_EQ(window(form)->size(), size);
-  EXPECT_TRUE(label.parentWidget()->rect().contains(label.geometry()));
-  point();
-  EXPECT_EQ(text(), form.Label11.caption());
+  EXPECT_EQ(told(form.Label11), form.Label11.caption());
+  click(app->MDIForm1().Menü4a);
+  settle();
+  for (auto* figure : {&app->Form6().Label8, &app->Form6().Label9, &app->Form6().Label14})
+    EXPECT_EQ(told(*figure), figure->caption());
 }
 
 TEST(Scene, ATextTooLongForItsPlaceIsToldWholeInAToolTip) {
