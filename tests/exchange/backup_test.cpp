@@ -1,7 +1,5 @@
 #include "exchange/backup.h"
 
-#include <gmock/gmock-matchers.h>
-
 #include "restore_test.h"
 #include "support/unwritable.h"
 #if __has_include(<sys/ptrace.h>)
@@ -13,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
-using testing::HasSubstr;
+using testing::IsSubstring;
 
 constexpr auto kMade = "Logbuch-2026-11-21-190000.mdb";
 
@@ -72,18 +70,19 @@ TEST(Backup, DeletesOnlyEarlierBackups) {
 TEST(Backup, RefusesWithoutDeletingAnything) {
   Keeping it;
   it.backups.write("Logbuch-2026-11-20-120000.mdb", "the last sound one");
-  EXPECT_THAT(refusal([&] { backUpLogbook(it.path, it.copy, 1, kNow); }), HasSubstr("no folder"));
+  EXPECT_PRED_FORMAT2(IsSubstring, "no folder",
+                      refusal([&] { backUpLogbook(it.path, it.copy, 1, kNow); }));
   fs::permissions(it.backups.path(), fs::perms(0555));
   {
     const PlainUser diver;
-    EXPECT_THAT(refusal([&] { it.backUp(1); }), HasSubstr("Nothing can be written into"));
+    EXPECT_PRED_FORMAT2(IsSubstring, "Nothing can be written into", refusal([&] { it.backUp(1); }));
   }
   fs::permissions(it.backups.path(), fs::perms(0755));
   sqlite3* other = nullptr;
   sqlite3_open(it.path.c_str(), &other);
   sqlite3_exec(other, "DROP TABLE Statistik", nullptr, nullptr, nullptr);
   sqlite3_close(other);
-  EXPECT_THAT(refusal([&] { it.backUp(1); }), HasSubstr("not sound"));
+  EXPECT_PRED_FORMAT2(IsSubstring, "not sound", refusal([&] { it.backUp(1); }));
   EXPECT_EQ(it.kept(), Names{"Logbuch-2026-11-20-120000.mdb"});
 }
 

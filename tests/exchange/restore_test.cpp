@@ -1,7 +1,5 @@
 #include "restore_test.h"
 
-#include <gmock/gmock-matchers.h>
-
 #include <functional>
 
 #include "store/lock.h"
@@ -13,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
-using testing::HasSubstr;
+using testing::IsSubstring;
 
 constexpr auto kKept = "Logbuch-replaced-2026-11-21-190000.mdb";
 
@@ -69,7 +67,8 @@ TEST(Restore, RefusesWhatWouldCostTheLogbook) {
   const auto refusedFor = [&](const std::string& copy) {
     return refusal([&] { restoreLogbook(it.path, copy, kNow); });
   };
-  EXPECT_THAT(refusedFor(it.folder.file("./Logbuch.mdb")), HasSubstr("is the logbook itself"));
+  EXPECT_PRED_FORMAT2(IsSubstring, "is the logbook itself",
+                      refusedFor(it.folder.file("./Logbuch.mdb")));
   {
     const LogbookLock other(it.path);
     EXPECT_EQ(refusedFor(it.copy), "This logbook is in use by another Nautrel program.");
@@ -78,7 +77,8 @@ TEST(Restore, RefusesWhatWouldCostTheLogbook) {
   sqlite3_open(it.elsewhere.file("part.mdb").c_str(), &damaged);
   sqlite3_exec(damaged, "CREATE TABLE Logbuch (Nr)", nullptr, nullptr, nullptr);
   sqlite3_close(damaged);
-  EXPECT_THAT(refusedFor(it.elsewhere.file("part.mdb")), HasSubstr("no logbook that can be put"));
+  EXPECT_PRED_FORMAT2(IsSubstring, "no logbook that can be put",
+                      refusedFor(it.elsewhere.file("part.mdb")));
   for (const auto& copy : {it.elsewhere.file("none.mdb"), it.elsewhere.write("letter", "Dear"),
                            it.elsewhere.path(), it.elsewhere.write("empty.mdb", "")})
     EXPECT_NE(failureOf([&] { restoreLogbook(it.path, copy, kNow); }), 0) << copy;
@@ -92,7 +92,7 @@ TEST(Restore, RefusesWhileAnotherToolHasTheLogbookOpen) {
   sqlite3* other = nullptr;
   sqlite3_open(it.path.c_str(), &other);
   sqlite3_exec(other, "SELECT * FROM Logbuch", nullptr, nullptr, nullptr);
-  EXPECT_THAT(refusal([&] { it.restore(); }), HasSubstr("open in another program"));
+  EXPECT_PRED_FORMAT2(IsSubstring, "open in another program", refusal([&] { it.restore(); }));
   sqlite3_close(other);
   EXPECT_EQ(it.restore().kept, it.folder.file(kKept));
 }
@@ -105,7 +105,7 @@ TEST(Restore, ReadsACopyThatCannotBeWrittenAndAnswersWhereItselfMayNotWrite) {
   const auto before = readFile(it.path);
   {
     const PlainUser diver;
-    EXPECT_THAT(refusal([&] { it.restore(); }), HasSubstr("Nothing can be written into"));
+    EXPECT_PRED_FORMAT2(IsSubstring, "Nothing can be written into", refusal([&] { it.restore(); }));
   }
   EXPECT_TRUE(readFile(it.path) == before);
   fs::permissions(it.folder.path(), fs::perms::all);

@@ -1,0 +1,23 @@
+#include <ctime>
+#include <iostream>
+
+#include "exchange/command.h"
+#include "exchange/process.h"
+
+namespace {
+
+nautrel::exchange::LocalTime localTime() {
+  using namespace std::chrono;
+  const std::time_t now = std::time(nullptr);
+  const std::tm clock = *std::localtime(&now);
+  return local_days(year(clock.tm_year + 1900) / (clock.tm_mon + 1) / clock.tm_mday) +
+         hours(clock.tm_hour) + minutes(clock.tm_min) + seconds(clock.tm_sec);
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  using namespace nautrel::exchange;
+  return runCommand(programArguments(count, arguments),
+                    {programFolder(), systemLocale(), localTime()}, std::cout, std::cerr);
+}
