@@ -34,8 +34,8 @@ constexpr Bubble kBubbles[] = {{&Form16::Shape1, 24},
 
 Form16::Form16(Shell& app)
     : Form(app, "Form16", {.caption = "Info", .width = 6000, .height = 4200}), app_(app) {
-  Picture1.holds(
-      {&Label1, &Label2, &Label3, &Label4, &Label5, &Shape1, &Shape2, &Shape3, &Shape4, &Shape5});
+  Picture1.holds({&Label1, &Label2, &Label3, &Label4, &Label5, &Label6, &Shape1, &Shape2, &Shape3,
+                  &Shape4, &Shape5});
   setTabOrder({&Command1});
   Picture1.setTabStop(false);
   Command1.setCancel();
@@ -50,6 +50,7 @@ void Form16::Form_Load() {
   Zweck();
   Logbuch();
   Bausteine();
+  Lizenz();
   Hinweis();
 }
 
@@ -64,6 +65,9 @@ void Form16::Logbuch() {
 }
 void Form16::Bausteine() {
   turnRound(Label4);
+}
+void Form16::Lizenz() {
+  turnRound(Label6);
 }
 void Form16::Hinweis() {
   turnRound(Label5);

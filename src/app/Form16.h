@@ -8,8 +8,9 @@ namespace nautrel {
 
 class Shell;
 
-/// The information window: what this system is and what it stands on. Its texts stand reversed in
-/// the labels and are turned round when it opens; the timer lets bubbles rise beside them.
+/// The information window: what this system is, what it stands on and who may use it. Its texts
+/// stand reversed in the labels and are turned round when it opens; the timer lets bubbles rise
+/// beside them.
 class Form16 : public Form {
  public:
   static constexpr int kNumber = Windows::Information;
@@ -26,6 +27,7 @@ class Form16 : public Form {
   void Zweck();
   void Logbuch();
   void Bausteine();
+  void Lizenz();
   void Hinweis();
   /// @}
 
@@ -41,6 +43,10 @@ class Form16 : public Form {
                ",)stxet( corp8ftu ,)koobgol eht( etiLQS\n"
                ",)gnitnirp dna swodniw( tQ no tliuB"};
   Label Label5{*this, "Label5", ".esolc ot csE sserp ro kcilC"};
+  Label Label6{*this, "Label6",
+               ".enola 2 :gvs2fmebil htiw deknil ;retal ro\n"
+               "2 esneciL cilbuP lareneG UNG :secruos stI\n"
+               ".ytnarraw yna tuohtiw erawtfos eerF"};
   Shape Shape1{*this, "Shape1", 300, {270, 3300}};
   Shape Shape2{*this, "Shape2", 180, {840, 2200}};
   Shape Shape3{*this, "Shape3", 420, {560, 4300}};

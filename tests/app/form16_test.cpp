@@ -19,6 +19,7 @@ TEST_F(Information, TellsWhatTheProgramIsAndStandsOnByTextsTurnedRound) {
   EXPECT_EQ(form.Label1.caption(), "Nautrel 2.0");
   for (const auto* library : {"Qt", "SQLite", "utf8proc", "mustache", "libwmf", "libemf2svg"})
     EXPECT_NE(form.Label4.caption().find(library), std::string::npos) << library;
+  EXPECT_NE(form.Label6.caption().find("GNU General Public License"), std::string::npos);
   form.Label3.setCaption("ßröw\n?nebü");
   form.Logbuch();
   EXPECT_EQ(form.Label3.caption(), "üben?\nwörß");
