@@ -15,14 +15,13 @@
 #include "evaluation/Form10.h"
 #include "evaluation/Form11.h"
 #include "evaluation/Form6.h"
-#include "platform/files.h"
 #include "printing/Form9.h"
 #include "search/Form12.h"
 #include "search/Form14.h"
 #include "search/Form19.h"
 #include "search/Form20.h"
 #include "shell/Form1.h"
-#include "store/lock.h"
+#include "store/program_files.h"
 
 namespace nautrel {
 
@@ -122,18 +121,9 @@ void Nautrel::show(int number) {
   showWindow(*this, number);
 }
 
-// The database engine keeps its side files, and the lock its own, where a linked logbook really is.
 std::vector<std::string> Nautrel::ownFiles() {
-  std::vector<std::string> files = {desktop().executable()};
-  for (const char* name :
-       {"Logbuch.lock", "Liste.rpt", "Statistik.rpt", "Benutzer.rpt", "nautrel.rtf"})
-    files.push_back(besideExecutable(name));
-  if (const auto lock = LogbookLock::fileFor(databasePath()); !lock.empty()) files.push_back(lock);
-  const auto logbook = followLinks(nativePath(databasePath())).u8string();
-  for (const char* side : {"", "-wal", "-shm", "-journal"}) {
-    files.push_back(databasePath() + side);
-    files.push_back(std::string(logbook.begin(), logbook.end()) + side);
-  }
+  auto files = programFiles(databasePath());
+  files.push_back(desktop().executable());
   return files;
 }
 

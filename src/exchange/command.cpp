@@ -105,22 +105,10 @@ class Command {
                                 .to = request_.to,
                                 .card = !request_.withoutCard,
                                 .equipment = !request_.withoutEquipment,
-                                .overwrite = request_.force,
-                                .ownFiles = ownFiles()};
+                                .overwrite = request_.force};
     Workspace workspace;
     const auto report = exportLogbook(workspace, logbook_, request_.file, options, place_.locale);
     return answerOf(report, request_.file, options);
-  }
-
-  std::vector<std::string> ownFiles() const {
-    std::vector<std::string> files;
-    for (const char* name : {"nautrel", "nautrel-exchange", "nautrel.exe", "nautrel-exchange.exe",
-                             "nautrel-exchange-window.exe", "Logbuch.lock", "Liste.rpt",
-                             "Statistik.rpt", "Benutzer.rpt", "nautrel.rtf"})
-      files.push_back(inFolder(name));
-    for (const auto& file : filesIn(nativePath(inFolder(".delivered"))))
-      files.push_back(utf8(file));
-    return files;
   }
 
   const Request& request_;

@@ -7,6 +7,7 @@
 #include "exchange/dive_record.h"
 #include "exchange/output_file.h"
 #include "exchange/uddf_writer.h"
+#include "store/program_files.h"
 
 namespace nautrel::exchange {
 namespace {
@@ -91,9 +92,7 @@ std::vector<std::string> cannotCarry(const ExportOptions& options) {
 ExportReport exportLogbook(Workspace& workspace, const std::string& logbook,
                            const std::string& target, const ExportOptions& options,
                            const Locale& locale, const Progress& progress) {
-  auto ownFiles = filesOfLogbook(logbook);
-  ownFiles.insert(ownFiles.end(), options.ownFiles.begin(), options.ownFiles.end());
-  OutputFile file(target, ownFiles, options.overwrite);
+  OutputFile file(target, programFiles(logbook), options.overwrite);
   const auto content = readLogbook(workspace, logbook, options);
   ExportReport report{.dives = static_cast<int>(content.dives.size())};
   if (options.format == Format::Csv) {

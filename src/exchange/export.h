@@ -20,9 +20,6 @@ struct ExportOptions {
   bool equipment = true;
   /// Whether a file that is there already may be replaced.
   bool overwrite = false;
-  /// The program's own files, to which nothing is ever exported. The logbook itself and what lies
-  /// beside it need not be named.
-  std::vector<std::string> ownFiles = {};
 };
 
 struct ExportReport {
@@ -37,9 +34,9 @@ struct ExportReport {
 /// What the format cannot carry to another program, to be said before the export.
 std::vector<std::string> cannotCarry(const ExportOptions& options);
 
-/// Writes the logbook to `target`, whole or not at all: no broken file stays behind, and one that
-/// was there stays as it was. Raises Refused, with "was cancelled" if `progress` says so, and what
-/// OpenDatabase and the recordsets raise.
+/// Writes the logbook to `target`, which is never a file of the program's own, whole or not at all:
+/// no broken file stays behind, and one that was there stays as it was. Raises Refused, with "was
+/// cancelled" if `progress` says so, and what OpenDatabase and the recordsets raise.
 ExportReport exportLogbook(Workspace& workspace, const std::string& logbook,
                            const std::string& target, const ExportOptions& options,
                            const Locale& locale, const Progress& progress = {});

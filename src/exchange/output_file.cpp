@@ -6,7 +6,6 @@
 
 #include "exchange/format.h"
 #include "platform/files.h"
-#include "store/lock.h"
 
 namespace nautrel::exchange {
 namespace fs = std::filesystem;
@@ -72,17 +71,6 @@ void OutputFile::commit() {
   fs::rename(draft_, target_, failed);
   if (failed) throw Refused{name_ + " cannot be written."};
   draft_.clear();
-}
-
-std::vector<std::string> filesOfLogbook(const std::string& logbook) {
-  std::vector<std::string> files;
-  if (auto lock = LogbookLock::fileFor(logbook); !lock.empty()) files.push_back(std::move(lock));
-  const auto real = followLinks(nativePath(logbook)).u8string();
-  for (const char* side : {"", "-wal", "-shm", "-journal"}) {
-    files.push_back(logbook + side);
-    files.push_back(std::string(real.begin(), real.end()) + side);
-  }
-  return files;
 }
 
 }  // namespace nautrel::exchange

@@ -36,7 +36,4 @@ class OutputFile {
   std::string waiting_;
 };
 
-/// The logbook and what the engine and the lock keep beside it, by both its names if it is a link.
-std::vector<std::string> filesOfLogbook(const std::string& logbook);
-
 }  // namespace nautrel::exchange

@@ -58,7 +58,7 @@ TEST_F(SaveDialog, NeverHandsBackAFileOfTheProgramsOwn) {
                  fs::relative(logbook).string()};
   for (const char* own :
        {"Logbuch.mdb", "Logbuch.mdb-wal", "Logbuch.mdb-shm", "Logbuch.mdb-journal", "Logbuch.lock",
-        "Liste.rpt", "Statistik.rpt", "Benutzer.rpt", "nautrel.rtf", "nautrel"})
+        "Liste.rpt", "Statistik.rpt", "Benutzer.rpt", "nautrel.rtf", "nautrel", "nautrel-exchange"})
     names.push_back(folder.file(own));
   for (const auto& name : names) EXPECT_EQ(refusal(name), belongs(name));
   for (const char* other : {"list.txt", "Logbuch.mdb.txt", "Logbuch"})

@@ -53,7 +53,7 @@ TEST(Export, WritesOverNothingThatIsNotToBeReplaced) {
   const auto link = book.folder.file("link.csv");
   std::filesystem::create_symlink(book.path, link);
   const auto refusedAt = [&](const std::string& target) {
-    ExportOptions options{.format = Format::Csv, .overwrite = target != there, .ownFiles = {own}};
+    ExportOptions options{.format = Format::Csv, .overwrite = target != there};
     return refusal([&] { exportLogbook(book.workspace, book.path, target, options, {}); });
   };
   for (const auto& target : {book.path, book.path + "-wal", book.folder.file("Logbuch.lock"), own,

@@ -1,0 +1,31 @@
+#include "store/program_files.h"
+
+#include "platform/files.h"
+#include "store/lock.h"
+
+namespace nautrel {
+namespace {
+
+std::string utf8(const std::filesystem::path& path) {
+  const auto text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+}  // namespace
+
+std::vector<std::string> programFiles(const std::string& logbook) {
+  std::vector<std::string> files;
+  const auto path = nativePath(logbook);
+  const auto folder = path.parent_path();
+  for (const char* program : {"nautrel", "nautrel.exe", "nautrel-exchange", "nautrel-exchange.exe",
+                              "nautrel-exchange-window.exe", "Logbuch.lock"})
+    files.push_back(utf8(folder / program));
+  for (const char* text : {"Liste.rpt", "Statistik.rpt", "Benutzer.rpt", "nautrel.rtf"})
+    for (const auto& where : {folder, folder / ".delivered"}) files.push_back(utf8(where / text));
+  if (auto lock = LogbookLock::fileFor(logbook); !lock.empty()) files.push_back(std::move(lock));
+  for (const char* side : {"", "-wal", "-shm", "-journal"})
+    for (const auto& where : {path, followLinks(path)}) files.push_back(utf8(where) + side);
+  return files;
+}
+
+}  // namespace nautrel

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace nautrel {
+
+/// What belongs to the program in the folder of a logbook, and over which nothing is ever written:
+/// the logbook itself and what the engine and the lock keep beside it, where it really is too if it
+/// is a link; the programs, the texts and how these were delivered. Not all of it need be there.
+std::vector<std::string> programFiles(const std::string& logbook);
+
+}  // namespace nautrel
