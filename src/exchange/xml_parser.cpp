@@ -17,7 +17,7 @@ namespace {
 constexpr std::size_t kMostDepth = 64;
 constexpr std::size_t kBlock = 1U << 20;
 /// A comment or an attribute of that size is none that a dive needs.
-constexpr std::size_t kLongestToken = 16U << 20;
+constexpr std::size_t kLongestToken = 4U << 20;
 
 std::string_view withoutPrefix(std::string_view name) {
   const auto colon = name.rfind(':');
