@@ -42,14 +42,13 @@ std::size_t InputFile::read(std::span<char> buffer) {
 }
 
 std::string InputFile::readAll() {
-  constexpr std::size_t kBlock = 1U << 20;
   std::string text;
-  for (;;) {
+  for (std::size_t more = size_ + 1;; more = text.size()) {
     const auto start = text.size();
-    text.resize(start + kBlock);
+    text.resize(start + more);
     const auto count = read(std::span(text).subspan(start));
     text.resize(start + count);
-    if (count < kBlock) return text;
+    if (count < more) return text;
   }
 }
 

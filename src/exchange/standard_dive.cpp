@@ -36,7 +36,7 @@ Meaning meaningOf(int column) {
 
 Cell scaled(const DiveRecord& dive, int column, const Locale& locale, double factor, int decimals) {
   const auto number = tryNumber(dive.text(column), locale);
-  if (!number || *number < 0) return {};
+  if (!number || *number < 0 || !std::isfinite(*number * factor)) return {};
   return fixedText(*number * factor, decimals);
 }
 

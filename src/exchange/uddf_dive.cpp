@@ -40,6 +40,10 @@ std::string lowered(std::string_view text) {
   return lowerAscii(trimmed(text));
 }
 
+bool isDecimalSign(std::string_view text) {
+  return !text.empty() && text.find_first_of("0123456789+-eE ") == std::string_view::npos;
+}
+
 /// What the numbers of a file with that sign look like.
 Locale localeOf(std::string_view sign) {
   return {.decimal = std::string(sign), .grouping = sign == "." ? "," : "."};
@@ -111,16 +115,22 @@ void UddfDive::readAfter(const XmlElement& dive) {
   told_[Feld::Lang] = cellOf(text);
 }
 
+/// A program that wrote the file again may have given the block a prefix.
 void UddfDive::readPrivateBlock(const XmlElement& dive) {
   const auto* data = dive.child("applicationdata");
   const auto* block = data == nullptr ? nullptr : data->child(kPrivateElement);
-  if (block == nullptr || block->attribute("xmlns") != kPrivateNamespace) return;
+  if (block == nullptr) return;
+  const auto space = block->attribute("xmlns");
+  if (!space.empty() && space != kPrivateNamespace) return;
   own_.emplace();
   ownSign_ = block->attribute("dec");
+  bool sound = isDecimalSign(ownSign_);
   for (const auto& field : block->children)
-    if (!takePrivateField(*own_, field.attribute("n"), field.attribute("enc"), field.text))
-      throw Refused{"The private block of Nautrel in line " + std::to_string(field.line) +
-                    " is damaged."};
+    sound =
+        takePrivateField(*own_, field.attribute("n"), field.attribute("enc"), field.text) && sound;
+  if (!sound)
+    throw Refused{"The private block of Nautrel in line " + std::to_string(block->line) +
+                  " is damaged."};
 }
 
 std::size_t UddfDive::mainTank() const {
@@ -214,8 +224,9 @@ SourceDive UddfDive::ours(const StandardDive& told, const UddfDefinitions& known
       continue;
     if (columnsToldBy(column).empty()) continue;
     if (!edited) edited = foreign(told, known, locale);
-    takeEdited(dive, *edited, column);
+    takeEdited(dive, *edited, column, *told[column]);
   }
+  dive.number = readWhole(dive.record.text(Feld::Nr));
   if (const auto moment = readMoment(told[Feld::Tag].value_or("")))
     dive.minuteOfDay = moment->minuteOfDay;
   return dive;

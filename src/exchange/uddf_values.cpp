@@ -122,14 +122,16 @@ void tellTemperature(DiveFiller& filler, const std::string& label, std::string_v
               " °F)");
 }
 
-void takeEdited(SourceDive& dive, const SourceDive& edited, int column) {
+void takeEdited(SourceDive& dive, const SourceDive& edited, int column, const std::string& told) {
   for (const int each : columnsToldBy(column)) {
     dive.record.flags[each] = edited.record.flags[each];
     if (diveColumn(each).isFlag) continue;
+    // Those two come with more, or not at all, in a dive of another program.
+    const bool asTold = each == Feld::Nr || each == Feld::Lang;
+    const auto now = asTold ? told : std::string(edited.record.text(each));
     auto& text = dive.record.texts[each];
-    const auto& now = edited.record.texts[each];
-    if (text == now || !now || now->empty()) continue;
-    dive.changes.push_back({std::string(diveColumn(each).label), text.value_or(""), *now,
+    if (now.empty() || text == now) continue;
+    dive.changes.push_back({std::string(diveColumn(each).label), text.value_or(""), now,
                             "changed in another program"});
     text = now;
   }

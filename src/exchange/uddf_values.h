@@ -23,7 +23,8 @@ std::string tankText(std::string_view volume, std::string_view begin, std::strin
 /// "Lowest temperature: 18.5 °C (65.3 °F)", from kelvin.
 void tellTemperature(DiveFiller& filler, const std::string& label, std::string_view kelvin);
 
-/// Replaces the columns that an element tells by those of `edited`, as a change made elsewhere.
-void takeEdited(SourceDive& dive, const SourceDive& edited, int column);
+/// Replaces the columns that an element tells by those of `edited`, as a change made elsewhere;
+/// `told` is the element's text.
+void takeEdited(SourceDive& dive, const SourceDive& edited, int column, const std::string& told);
 
 }  // namespace nautrel::exchange

@@ -2,6 +2,7 @@
 
 #include <expat.h>
 
+#include <algorithm>
 #include <array>
 #include <exception>
 #include <memory>
@@ -62,7 +63,8 @@ const char* encodingOfMark(std::string_view start) {
 /// has stopped.
 class Parser {
  public:
-  Parser(InputFile& file, XmlHandler& handler) : file_(file), handler_(handler) {
+  Parser(InputFile& file, XmlHandler& handler)
+      : file_(file), handler_(handler), block_(std::min(kBlock, file.size() + 1)) {
     XML_SetUserData(parser_.get(), this);
     XML_SetElementHandler(parser_.get(), begin, end);
     XML_SetCharacterDataHandler(parser_.get(), text);
@@ -162,7 +164,7 @@ class Parser {
   std::array<std::string, kMostDepth> names_;
   std::size_t depth_ = 0;
   std::exception_ptr thrown_;
-  std::size_t block_ = kBlock;
+  std::size_t block_;
   XML_Index place_ = -1;
   bool atStart_ = true;
 };

@@ -1,5 +1,6 @@
 #include "exchange/xml_text.h"
 
+#include <algorithm>
 #include <cstdint>
 
 #include "platform/text.h"
@@ -29,17 +30,24 @@ std::size_t standingBytes(std::string_view text, std::size_t at) {
   return code < 0x800 ? 2 : code < 0x10000 ? 3 : 4;
 }
 
-/// Calls `take` for each character that can stand, and `drop` for each byte that cannot.
+std::size_t endOfPlain(std::string_view text, std::size_t at) {
+  const auto isPlain = [](unsigned char byte) { return byte >= ' ' && byte < 0x80; };
+  while (at < text.size() && isPlain(static_cast<unsigned char>(text[at]))) ++at;
+  return at;
+}
+
+/// Calls `take` for each run of characters that can stand, and `drop` for each byte that cannot.
 template <class Take, class Drop>
-void forCharacters(std::string_view text, const Take& take, const Drop& drop) {
+void forRuns(std::string_view text, const Take& take, const Drop& drop) {
   for (std::size_t at = 0; at < text.size();) {
-    const auto bytes = standingBytes(text, at);
-    if (bytes == 0) {
+    auto end = endOfPlain(text, at);
+    if (end == at) end += standingBytes(text, at);
+    if (end == at) {
       drop();
       ++at;
     } else {
-      take(text.substr(at, bytes));
-      at += bytes;
+      take(text.substr(at, end - at));
+      at = end;
     }
   }
 }
@@ -65,24 +73,30 @@ std::string_view escapeOf(char character) {
 
 bool canStandInXml(std::string_view text) {
   bool stands = true;
-  forCharacters(
+  forRuns(
       text, [](std::string_view) {}, [&] { stands = false; });
   return stands;
 }
 
 std::string xmlCharactersOf(std::string_view text) {
   std::string kept;
-  forCharacters(
-      text, [&](std::string_view character) { kept += character; }, [] {});
+  forRuns(
+      text, [&](std::string_view run) { kept += run; }, [] {});
   return kept;
 }
 
 void appendEscaped(std::string& xml, std::string_view text) {
-  const auto append = [&](std::string_view character) {
-    const auto escape = escapeOf(character.front());
-    xml += escape.empty() ? character : escape;
+  const auto append = [&](std::string_view run) {
+    while (!run.empty()) {
+      const auto end = std::min(run.find_first_of("&<>\"\r"), run.size());
+      xml += run.substr(0, end);
+      run.remove_prefix(end);
+      if (run.empty()) break;
+      xml += escapeOf(run.front());
+      run.remove_prefix(1);
+    }
   };
-  forCharacters(text, append, [] {});
+  forRuns(text, append, [] {});
 }
 
 std::string toBase64(std::string_view bytes) {

@@ -56,9 +56,11 @@ TEST(BadInput, IsRefusedWithOneSentenceAndItsPlace) {
        "The text of <notes> in line 2 is longer than 1 MB."},
       {"q.uddf", uddf(many("<dive/>", 10'000)), "holds more than 9999 dives."},
       {"r.uddf",
-       uddf("<dive><applicationdata><nautrel xmlns='urn:nautrel:logbook:1'>\n"
+       uddf("<dive><applicationdata>\n<nautrel xmlns='urn:nautrel:logbook:1' dec='.'>"
             "<f n='Tiefe' enc='base64'>*</f></nautrel></applicationdata></dive>"),
        "The private block of Nautrel in line 2 is damaged."},
+      {"7.uddf", uddf("<dive><applicationdata><nautrel/></applicationdata></dive>"),
+       "The private block of Nautrel in line 1 is damaged."},
       {"s.csv", kHead, "holds no dives."},
       {"t.csv", kHead + kDive + "2001-03-06,45\n", "line 3 has 2 cells, the header 3."},
       {"u.csv", kHead + kDive + "2001-03-06,45,1,2\n", "line 3 has 4 cells, the header 3."},

@@ -1,5 +1,9 @@
 #include "exchange/export.h"
 
+#include <sys/resource.h>
+
+#include <csignal>
+
 #include "exchange/csv_writer.h"
 #include "exchange_test.h"
 
@@ -82,6 +86,27 @@ TEST(Export, LeavesNothingBehindWhereItFails) {
   for (const auto& entry : std::filesystem::directory_iterator(book.folder.path()))
     names.push_back(entry.path().filename().string());
   for (const auto& name : names) EXPECT_EQ(name.find(".new"), std::string::npos) << name;
+}
+
+/// Where a file cannot grow any further, as on a full disk.
+TEST(Export, TellsAFullDiskAndLeavesNothing) {
+  Book book;
+  auto dive = plainDive("1");
+  dive.texts[Feld::Lang] = std::string(1 << 20, 'x');
+  book.add(dive);
+  book.workspace.settle();
+  const auto target = book.folder.file("a.uddf");
+  const auto before = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit limit{};
+  getrlimit(RLIMIT_FSIZE, &limit);
+  const rlimit small{.rlim_cur = 100'000, .rlim_max = limit.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &small);
+  const auto sentence = refusal([&] { exportLogbook(book.workspace, book.path, target, {}, {}); });
+  setrlimit(RLIMIT_FSIZE, &limit);
+  std::signal(SIGXFSZ, before);
+  EXPECT_NE(sentence.find("could not be written to its end"), std::string::npos) << sentence;
+  for (const auto& entry : std::filesystem::directory_iterator(book.folder.path()))
+    EXPECT_EQ(entry.path().filename().string().find("a.uddf"), std::string::npos);
 }
 
 }  // namespace

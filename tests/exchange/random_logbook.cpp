@@ -102,7 +102,7 @@ TextRow RandomLogbooks::row(std::string_view table) {
 
 Logbook RandomLogbooks::next() {
   Logbook logbook;
-  for (int count = 1 + below(4); count > 0; --count) logbook.dives.push_back(dive());
+  for (int count = 1 + below(2); count > 0; --count) logbook.dives.push_back(dive());
   logbook.card = row(Tabelle::Benutzer);
   for (int count = below(3); count > 0; --count)
     logbook.equipment.push_back(row(Tabelle::Ausrüstung));
