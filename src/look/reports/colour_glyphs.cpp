@@ -4,10 +4,14 @@
 #include <QImage>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QTextBlock>
 #include <QTextBoundaryFinder>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextLayout>
+#include <QTextObjectInterface>
 #include <algorithm>
+#include <string_view>
 
 #include "look/reports/report_style.h"
 
@@ -24,7 +28,7 @@ bool leavesColoursOut(const QPainter& painter) {
 }
 
 // At half a twip's resolution a line of text is still finer than printers are.
-void paintAsImage(QPainter& painter, const QPointF& origin, const QGlyphRun& run) {
+PaperRun asPicture(const QGlyphRun& run) {
   constexpr double kScale = 0.5;
   const QRectF place = run.boundingRect().adjusted(-20, -20, 20, 20);
   QImage image((place.size() * kScale).toSize().expandedTo({1, 1}), QImage::Format_ARGB32);
@@ -33,8 +37,7 @@ void paintAsImage(QPainter& painter, const QPointF& origin, const QGlyphRun& run
   glyphs.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
   glyphs.scale(kScale, kScale);
   glyphs.drawGlyphRun(-place.topLeft(), run);
-  glyphs.end();
-  painter.drawImage(place.translated(origin), image);
+  return {run, image, place};
 }
 
 bool mayHaveColourGlyphs(QStringView text) {
@@ -60,40 +63,75 @@ QList<QGlyphRun> shapedLine(const QString& text, const QFont& font) {
   return runs;
 }
 
-void paintColourGlyphs(QPainter& painter, const QPointF& at, const QString& text,
-                       const QFont& font) {
-  if (!leavesColoursOut(painter) || !mayHaveColourGlyphs(text)) return;
+std::vector<PaperRun> runsOf(const QString& text, const QFont& font) {
+  const bool plain = !mayHaveColourGlyphs(text);
+  std::vector<PaperRun> runs;
   for (const auto& run : shapedLine(text, font))
-    if (hasColours(run.rawFont())) paintAsImage(painter, at, run);
+    runs.push_back(plain || !hasColours(run.rawFont()) ? PaperRun{run, {}, {}} : asPicture(run));
+  return runs;
 }
 
-QFont twipsFont(const QTextFragment& fragment) {
-  QFont font = fragment.charFormat().font();
+void paint(QPainter& painter, const QPointF& at, const std::vector<PaperRun>& runs) {
+  for (const auto& run : runs)
+    if (run.picture.isNull())
+      painter.drawGlyphRun(at, run.glyphs);
+    else
+      painter.drawImage(run.place.translated(at), run.picture);
+}
+
+QFont twipsFont(const QTextFormat& format) {
+  QFont font = format.toCharFormat().font();
   if (font.pixelSize() < 0) font.setPixelSize(qRound(font.pointSizeF() * kTwipsPerPoint));
   return font;
 }
 
-void addColourGlyphs(QPainter& painter, const QTextBlock& block, const QTextFragment& fragment,
-                     const QPointF& origin) {
-  const QString text = fragment.text();
+constexpr int kColourGlyph = QTextFormat::UserObject;
+constexpr int kCharacter = QTextFormat::UserProperty;
+
+/// One character of a document as an object in its line.
+class ColourGlyph : public QObject, public QTextObjectInterface {
+ public:
+  using QObject::QObject;
+
+  QSizeF intrinsicSize(QTextDocument*, int, const QTextFormat& format) override {
+    const QFontMetricsF metrics(twipsFont(format));
+    return {metrics.horizontalAdvance(format.stringProperty(kCharacter)), metrics.ascent()};
+  }
+  void drawObject(QPainter* painter, const QRectF& place, QTextDocument*, int,
+                  const QTextFormat& format) override {
+    painter->setFont(twipsFont(format));
+    painter->setPen(format.foreground().color());
+    drawPaperText(*painter, place.bottomLeft(), format.stringProperty(kCharacter));
+  }
+  void* qt_metacast(const char* name) override {
+    const bool asked = std::string_view(name) == qobject_interface_iid<QTextObjectInterface*>();
+    return asked ? static_cast<QTextObjectInterface*>(this) : QObject::qt_metacast(name);
+  }
+};
+
+/// Where the characters in colour stand in the document.
+std::vector<QTextCursor> colourGlyphsIn(const QTextBlock& block) {
+  std::vector<QTextCursor> found;
+  const QString text = block.text();
   QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
   for (qsizetype start = 0, end = 0; (end = finder.toNextBoundary()) != -1; start = end) {
-    const QString character = text.sliced(start, end - start);
-    if (!mayHaveColourGlyphs(character)) continue;
-    const int place = fragment.position() - block.position() + static_cast<int>(start);
-    const auto line = block.layout()->lineForTextPosition(place);
-    const double x =
-        std::min(line.cursorToX(place), line.cursorToX(place + static_cast<int>(character.size())));
-    paintColourGlyphs(painter, origin + QPointF(x, line.y() + line.ascent()), character,
-                      twipsFont(fragment));
+    QTextCursor cursor(block);
+    cursor.setPosition(block.position() + static_cast<int>(start));
+    cursor.setPosition(block.position() + static_cast<int>(end), QTextCursor::KeepAnchor);
+    const auto runs = runsOf(text.sliced(start, end - start), twipsFont(cursor.charFormat()));
+    if (std::ranges::any_of(runs, [](const auto& run) { return !run.picture.isNull(); }))
+      found.push_back(cursor);
   }
+  return found;
 }
 
 }  // namespace
 
 void drawPaperText(QPainter& painter, const QPointF& at, const QString& text) {
-  painter.drawText(at, text);
-  paintColourGlyphs(painter, at, text, painter.font());
+  if (leavesColoursOut(painter) && mayHaveColourGlyphs(text))
+    paint(painter, at, runsOf(text, painter.font()));
+  else
+    painter.drawText(at, text);
 }
 
 PaperLines::PaperLines(const QFont& font) : font_(font), raw_(QRawFont::fromFont(font)) {
@@ -106,11 +144,7 @@ PaperLines::PaperLines(const QFont& font) : font_(font), raw_(QRawFont::fromFont
 
 void PaperLines::draw(QPainter& painter, const QPointF& at, const QString& text) const {
   if (!leavesColoursOut(painter)) return painter.drawText(at, text);
-  for (const auto& run : shaped(text))
-    if (run.colour)
-      paintAsImage(painter, at, run.glyphs);
-    else
-      painter.drawGlyphRun(at, run.glyphs);
+  paint(painter, at, shaped(text));
 }
 
 void PaperLines::drawFigure(QPainter& painter, const QPointF& at, const QString& text) const {
@@ -132,29 +166,24 @@ void PaperLines::drawFigure(QPainter& painter, const QPointF& at, const QString&
   painter.drawGlyphRun(at, run);
 }
 
-const std::vector<PaperLines::Run>& PaperLines::shaped(const QString& text) const {
+const std::vector<PaperRun>& PaperLines::shaped(const QString& text) const {
   constexpr qsizetype kMostKnown = 20'000;
   if (const auto found = known_.constFind(text); found != known_.cend()) return *found;
   if (known_.size() >= kMostKnown) known_.clear();
-  std::vector<Run> runs;
-  for (const auto& run : shapedLine(text, font_))
-    runs.push_back({run, mayHaveColourGlyphs(text) && hasColours(run.rawFont())});
-  return *known_.insert(text, std::move(runs));
+  return *known_.insert(text, runsOf(text, font_));
 }
 
-std::vector<QTextBlock> blocksWithColourGlyphs(const QTextDocument& document) {
-  std::vector<QTextBlock> blocks;
-  for (auto block = document.begin(); block.isValid(); block = block.next())
-    if (mayHaveColourGlyphs(block.text())) blocks.push_back(block);
-  return blocks;
-}
-
-void addColourGlyphs(QPainter& painter, const QTextBlock& block) {
-  if (!leavesColoursOut(painter)) return;
-  const QRectF place = block.document()->documentLayout()->blockBoundingRect(block);
-  if (!place.intersects(painter.clipBoundingRect())) return;
-  for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment)
-    addColourGlyphs(painter, block, fragment.fragment(), place.topLeft());
+void paintColourGlyphsOf(QTextDocument& document) {
+  document.documentLayout()->registerHandler(kColourGlyph, new ColourGlyph(&document));
+  for (auto block = document.begin(); block.isValid(); block = block.next()) {
+    if (!mayHaveColourGlyphs(block.text())) continue;
+    for (auto& cursor : colourGlyphsIn(block)) {
+      auto format = cursor.charFormat();
+      format.setObjectType(kColourGlyph);
+      format.setProperty(kCharacter, cursor.selectedText());
+      cursor.insertText(QString(QChar::ObjectReplacementCharacter), format);
+    }
+  }
 }
 
 }  // namespace nautrel

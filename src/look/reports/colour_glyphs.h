@@ -3,10 +3,10 @@
 #include <QFont>
 #include <QGlyphRun>
 #include <QHash>
+#include <QImage>
 #include <QPointF>
 #include <QRawFont>
 #include <QString>
-#include <QTextBlock>
 #include <vector>
 
 class QPainter;
@@ -14,7 +14,15 @@ class QTextDocument;
 
 namespace nautrel {
 
-/// Paper and PDF leave out what fonts have as pictures in colour, such as emoji: these paint it.
+/// Paper and PDF leave out what fonts have as pictures in colour, such as emoji, and a font that
+/// came upon one of them measures wrongly for the rest of the run: these paint it as a picture.
+
+/// A part of a line of text, from the line's baseline on.
+struct PaperRun {
+  QGlyphRun glyphs;
+  QImage picture;  // of glyphs in colour
+  QRectF place;    // of the picture
+};
 
 /// Paints one line of text with its baseline at a point.
 void drawPaperText(QPainter& painter, const QPointF& at, const QString& text);
@@ -30,24 +38,16 @@ class PaperLines {
   void drawFigure(QPainter& painter, const QPointF& at, const QString& text) const;
 
  private:
-  struct Run {
-    QGlyphRun glyphs;  // from the baseline on
-    bool colour = false;
-  };
-
-  const std::vector<Run>& shaped(const QString& text) const;
+  const std::vector<PaperRun>& shaped(const QString& text) const;
 
   QFont font_;
   QRawFont raw_;
   QList<quint32> glyphs_;  // of the characters below 128
   QList<QPointF> advances_;
-  mutable QHash<QString, std::vector<Run>> known_;
+  mutable QHash<QString, std::vector<PaperRun>> known_;
 };
 
-/// The parts of a document that may have such pictures.
-std::vector<QTextBlock> blocksWithColourGlyphs(const QTextDocument& document);
-
-/// Adds to a document of twips, painted from the origin on, what the painter left out of a block.
-void addColourGlyphs(QPainter& painter, const QTextBlock& block);
+/// Has a document, whose unit is a twip and which is not laid out yet, paint such characters so.
+void paintColourGlyphsOf(QTextDocument& document);
 
 }  // namespace nautrel

@@ -30,9 +30,27 @@ bool isFigure(QStringView text) {
   return digits && text.size() <= kLongest && unit.size() <= kLongestUnit && !unit.contains(' ');
 }
 
+/// Scripts without blanks go on in the next line behind any character.
+bool writtenWithoutBlanks(char16_t code) {
+  return (code >= 0x2E80 && code < 0xA4D0) || (code >= 0xF900 && code < 0xFB00);
+}
+
+/// Whether a line may end behind a character that is followed by others.
+bool mayEndBehind(QStringView text, qsizetype place) {
+  return text[place] == u' ' || writtenWithoutBlanks(text[place].unicode()) ||
+         (text[place] == u'-' && text[place + 1].isLetter());
+}
+
 double longestWord(QStringView text, const CharacterWidths& widths) {
   double longest = 0;
-  for (const auto word : text.tokenize(u' ')) longest = std::max(longest, widths.of(word));
+  qsizetype start = 0;
+  for (qsizetype place = 0; place < text.size(); ++place) {
+    const bool last = place + 1 == text.size();
+    if (!last && !mayEndBehind(text, place)) continue;
+    const auto word = text.sliced(start, place + 1 - start);
+    longest = std::max(longest, widths.of(word.trimmed()));
+    start = place + 1;
+  }
   return longest;
 }
 
@@ -66,10 +84,16 @@ CharacterWidths::CharacterWidths(const QFont& font) : metrics_(font) {
 double CharacterWidths::of(QStringView text) const {
   double width = 0;
   for (const QChar character : text) {
-    if (character.unicode() >= widths_.size()) return metrics_.horizontalAdvance(text.toString());
+    if (character.unicode() >= widths_.size()) return shaped(text.toString());
     width += widths_[character.unicode()];
   }
   return width;
+}
+
+double CharacterWidths::shaped(const QString& text) const {
+  const auto known = others_.constFind(text);
+  if (known != others_.cend()) return *known;
+  return *others_.insert(text, metrics_.horizontalAdvance(text));
 }
 
 ListCells::ListCells(const std::vector<std::string>& texts, const ListLayout& layout)

@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QString>
 #include <vector>
 
@@ -17,8 +18,11 @@ class CharacterWidths {
   double of(QStringView text) const;
 
  private:
+  double shaped(const QString& text) const;
+
   QFontMetricsF metrics_;
   std::vector<double> widths_;
+  mutable QHash<QString, double> others_;  // of texts that have to be shaped
 };
 
 inline constexpr auto kHeadWeight = QFont::DemiBold;

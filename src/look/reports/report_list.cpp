@@ -2,6 +2,7 @@
 
 #include <QTextLayout>
 #include <algorithm>
+#include <cmath>
 
 #include "look/convert.h"
 #include "look/reports/report_style.h"
@@ -12,7 +13,7 @@ namespace {
 constexpr int kMostHeadLines = 3;
 constexpr double kSmallestText = 0.7;
 // A hair of a point, for sums of widths that should be equal.
-constexpr double kSlack = 2;
+constexpr double kSlack = 4;
 
 // Of the height of a line.
 constexpr double kRowPadding = 0.45;
@@ -78,9 +79,11 @@ ReportList::ReportList(ReportFrame frame, ListLayout layout, ListCells cells,
   breakPages();
 }
 
+// Fonts come in whole twips; rounded up, words would be a hair too wide for their columns.
 double ReportList::fittingScale() const {
   const double words = sumOf(cells_.needs(), &ColumnNeed::words);
-  return std::clamp(body().width() / words, kSmallestText, 1.0);
+  const double full = paperFont(layout_.textSize).pixelSize();
+  return std::floor(std::clamp(body().width() / words, kSmallestText, 1.0) * full) / full;
 }
 
 void ReportList::placeColumns() {
@@ -142,7 +145,8 @@ int ReportList::linesOf(std::size_t row) const {
 QStringList ReportList::linesOf(std::size_t row, std::size_t column) const {
   const auto& cell = cells_.at(row, column);
   if (fits(cell, column)) return {cell.text};
-  return wrapped(cell.text, font_, columns_[column].width, cell.figure ? 1 : layout_.linesPerCell);
+  return wrapped(cell.text, font_, columns_[column].width + kSlack,
+                 cell.figure ? 1 : layout_.linesPerCell);
 }
 
 void ReportList::paint(QPainter& painter, int page) const {

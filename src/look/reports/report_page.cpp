@@ -111,10 +111,10 @@ ReportPage::ReportPage(PageReport report, const QPageLayout& paper)
   text_.setDocumentMargin(0);
   text_.setTextWidth(room_.width());
   text_.setHtml(toQt(report.html));
+  paintColourGlyphsOf(text_);
   keepGroups();
   text_.setPageSize(room_.size());
   if (text_.fault()) throw *text_.fault();
-  coloured_ = blocksWithColourGlyphs(text_);
 }
 
 void ReportPage::keepGroups() {
@@ -141,7 +141,6 @@ void ReportPage::paint(QPainter& painter, int page) const {
   context.palette.setColor(QPalette::Text, Qt::black);
   context.clip = part;
   text_.documentLayout()->draw(&painter, context);
-  for (const auto& block : coloured_) addColourGlyphs(painter, block);
   painter.restore();
 }
 

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <QTextBlock>
 #include <QTextDocument>
 #include <optional>
-#include <vector>
 
 #include "look/reports/report_frame.h"
 #include "look/reports/report_pages.h"
@@ -41,7 +39,6 @@ class ReportPage : public ReportPages {
   PageFrame frame_;
   QRectF room_;
   PageText text_;
-  std::vector<QTextBlock> coloured_;
 };
 
 }  // namespace nautrel
