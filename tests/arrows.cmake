@@ -1,0 +1,59 @@
+# Which room knows which: `cmake -P tests/arrows.cmake` names every include that is not in this
+# table, with its file and line. A name with a slash is a header that is known, and not its room.
+# There is no circle in it; one that must be is to be written here with its reason.
+cmake_minimum_required(VERSION 3.25)
+set(platform_knows)
+set(store_knows platform)
+set(data_knows ${store_knows} store)
+set(shell_knows ${data_knows} data)
+# The rooms of the windows.
+foreach(room dives evaluation diver printing calculators)
+  set(${room}_knows ${shell_knows} shell)
+endforeach()
+set(search_knows ${shell_knows} shell dives) # opens its hits in the record windows
+set(app_knows ${search_knows} search evaluation diver printing calculators)
+# The companion needs no window but its own.
+set(exchange_knows ${store_knows} store data)
+set(tools_knows ${store_knows} store exchange)
+# The look paints controls. Besides it knows the program that it shows and the windows that it
+# frames by a class of their own, the lock that it asks before, and what a report is made of.
+set(look_knows platform data/grid.h store/lock.h shell/Form1.h shell/placing.h app/MDIForm1.h
+               app/Nautrel.h printing/column_widths.h printing/report_document.h)
+set(main_knows look/application.h)
+
+cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH root)
+set(wrong 0)
+
+macro(refuse)
+  file(READ ${root}/src/${file} content)
+  string(REGEX REPLACE "${include}.*" "" before "${content}")
+  string(REGEX MATCHALL "\n" lines "${before}")
+  list(LENGTH lines line)
+  math(EXPR line "${line} + 1")
+  math(EXPR wrong "${wrong} + 1")
+  message("src/${file}:${line}: ${include}: the room '${room}' does not know it")
+endmacro()
+
+file(GLOB_RECURSE files RELATIVE ${root}/src ${root}/src/*.h ${root}/src/*.cpp)
+foreach(file ${files})
+  string(REGEX REPLACE "/.*" "" room "${file}")
+  if(room STREQUAL file)
+    set(room main)
+  endif()
+  file(STRINGS ${root}/src/${file} includes REGEX "^#include (\"[a-z_]+/|<Q)")
+  foreach(include ${includes})
+    string(REGEX REPLACE "^#include [\"<](.*)[\">]" "\\1" header "${include}")
+    string(REGEX REPLACE "/.*" "" known "${header}")
+    if(header MATCHES "^Q")
+      set(known look)
+    endif()
+    if(NOT known STREQUAL room AND NOT known IN_LIST ${room}_knows
+       AND NOT header IN_LIST ${room}_knows)
+      refuse()
+    endif()
+  endforeach()
+endforeach()
+
+if(wrong)
+  message(FATAL_ERROR "${wrong} includes against the arrows: the table is in tests/arrows.cmake")
+endif()
