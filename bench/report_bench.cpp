@@ -3,6 +3,7 @@
 #include "bench_support.h"
 #include "look/reports/report_pages.h"
 #include "look/reports/report_preview.h"
+#include "printing/make_report.h"
 
 // A preview of 500 dives is to be on the screen within 300 ms, one of 9,999 within a second, and as
 // soon a PDF of 9,999.

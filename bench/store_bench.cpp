@@ -70,7 +70,6 @@ void append(benchmark::State& state) {
     }
     dives.Update();
     dives.Close();
-    database.Close();
     workspace.settle();
   }
 }

@@ -14,12 +14,14 @@ set(search_knows ${shell_knows} shell dives) # opens its hits in the record wind
 set(app_knows ${search_knows} search evaluation diver printing calculators)
 # The companion needs no window but its own.
 set(exchange_knows ${store_knows} store data)
-set(tools_knows ${store_knows} store exchange)
+set(tools_knows ${store_knows} store)
 # The look paints controls. Besides it knows the program that it shows and the windows that it
 # frames by a class of their own, the lock that it asks before, and what a report is made of.
 set(look_knows platform data/grid.h store/lock.h shell/Form1.h shell/placing.h app/MDIForm1.h
-               app/Nautrel.h printing/column_widths.h printing/report_document.h)
+               app/Nautrel.h printing/column_widths.h printing/make_report.h
+               printing/report_document.h printing/report_fault.h)
 set(main_knows look/application.h)
+set(exchange_main_knows exchange)
 
 cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH root)
 set(wrong 0)
@@ -36,10 +38,7 @@ endmacro()
 
 file(GLOB_RECURSE files RELATIVE ${root}/src ${root}/src/*.h ${root}/src/*.cpp)
 foreach(file ${files})
-  string(REGEX REPLACE "/.*" "" room "${file}")
-  if(room STREQUAL file)
-    set(room main)
-  endif()
+  string(REGEX REPLACE "[/.].*" "" room "${file}")
   file(STRINGS ${root}/src/${file} includes REGEX "^#include (\"[a-z_]+/|<Q)")
   foreach(include ${includes})
     string(REGEX REPLACE "^#include [\"<](.*)[\">]" "\\1" header "${include}")

@@ -17,7 +17,6 @@
 namespace nautrel {
 namespace {
 
-constexpr int kWordSearch = 12;
 constexpr int kRangePage = 1;
 
 const RangeMessages kMessages{.first = "First dive-# is not valid",
@@ -220,7 +219,7 @@ void Form5::Form_Unload() {
   shared.LogbuchPruefen();
   if (shared.LogbuchLeer) {
     shared.MenuesSperren();
-    if (shared.VonWortsuche) app_.unload(kWordSearch);
+    if (shared.VonWortsuche) app_.unload(Windows::SearchWord);
   }
   returnToSearch(app_);
 }

@@ -1,16 +1,14 @@
 #pragma once
 
-#include <array>
 #include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace nautrel::exchange {
+#include "platform/files.h"
+#include "store/database_file.h"
 
-/// A logbook and what the database engine lays beside it: by their names alone it knows what
-/// belongs together.
-inline constexpr std::array<std::string_view, 4> kSideFiles{"", "-wal", "-shm", "-journal"};
+namespace nautrel::exchange {
 
 inline std::filesystem::path beside(const std::filesystem::path& logbook, std::string_view side) {
   auto path = logbook;
@@ -25,12 +23,6 @@ inline std::vector<std::filesystem::path> filesIn(const std::filesystem::path& f
        entry.increment(failed))
     files.push_back(entry->path());
   return files;
-}
-
-/// A path as the core names it.
-inline std::string utf8(const std::filesystem::path& path) {
-  const auto text = path.u8string();
-  return std::string(text.begin(), text.end());
 }
 
 }  // namespace nautrel::exchange

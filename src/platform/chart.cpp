@@ -22,21 +22,13 @@ void Chart::setRow(int row) {
   row_ = row;
 }
 
-const std::string& Chart::RowLabel() const {
-  return selected().label;
-}
-
 void Chart::setRowLabel(std::string label) {
   selected().label = std::move(label);
   changed();
 }
 
-std::string Chart::Data() const {
-  return generalText(selected().value, locale());
-}
-
 void Chart::setData(std::string_view value) {
-  selected().value = readNumber(value, locale());
+  selected().value = readNumber(value, form().program().desktop().locale());
   changed();
 }
 
@@ -56,14 +48,6 @@ void Chart::EditCopy() const {
 
 Chart::Entry& Chart::selected() {
   return entries_.at(static_cast<std::size_t>(row_ - 1));
-}
-
-const Chart::Entry& Chart::selected() const {
-  return entries_.at(static_cast<std::size_t>(row_ - 1));
-}
-
-const Locale& Chart::locale() const {
-  return form().program().desktop().locale();
 }
 
 }  // namespace nautrel

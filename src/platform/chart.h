@@ -29,15 +29,11 @@ class Chart : public Control {
   const std::string& valueTitle() const { return valueTitle_; }
   const std::vector<Entry>& entries() const { return entries_; }
 
-  int Row() const { return row_; }
   /// Selects a row. Raises 380 if there is no such row.
   void setRow(int row);
   /// The selected row's text on the axis.
-  const std::string& RowLabel() const;
   void setRowLabel(std::string label);
-  /// The selected row's value, in the general form. Assigning raises 13 for a text that is no
-  /// number.
-  std::string Data() const;
+  /// The selected row's value. Raises 13 for a text that is no number.
   void setData(std::string_view value);
 
   Type chartType() const { return type_; }
@@ -51,8 +47,6 @@ class Chart : public Control {
 
  private:
   Entry& selected();
-  const Entry& selected() const;
-  const Locale& locale() const;
 
   std::string categoryTitle_;
   std::string valueTitle_;

@@ -13,6 +13,11 @@ fs::path nativePath(const std::string& path) {
   return fs::path(std::u8string(path.begin(), path.end()));
 }
 
+std::string utf8(const fs::path& path) {
+  const auto text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
 // Written out by hand, since the library's own resolving stops before a link to nothing, through
 // which a file would be made all the same.
 fs::path followLinks(const fs::path& path) {

@@ -7,6 +7,8 @@ namespace nautrel {
 
 /// A path of the program, in UTF-8, as the file system's own.
 std::filesystem::path nativePath(const std::string& path);
+/// A path of the file system as the program names it.
+std::string utf8(const std::filesystem::path& path);
 
 /// The absolute path that a path leads to by its own links, one that points at nothing included.
 std::filesystem::path followLinks(const std::filesystem::path& path);

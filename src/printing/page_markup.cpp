@@ -5,7 +5,7 @@
 #include <charconv>
 #include <vector>
 
-#include "printing/report_document.h"
+#include "printing/report_fault.h"
 
 namespace nautrel {
 namespace {

@@ -6,15 +6,9 @@
 #include <variant>
 #include <vector>
 
-#include "platform/desktop.h"
-#include "platform/text.h"
+#include "printing/report_fault.h"
 
 namespace nautrel {
-
-/// A report that cannot be made, told in words for the user.
-struct ReportFault {
-  std::string text;
-};
 
 /// What stands above and below every page of a report.
 struct ReportFrame {
@@ -55,10 +49,5 @@ struct ListReport : ReportFrame {
 };
 
 using ReportDocument = std::variant<PageReport, ListReport>;
-
-/// Fills the job's template from the logbook that stands beside it. Raises ReportFault: the
-/// template is missing or broken or asks for more than can be shown, the selection cannot be read,
-/// the logbook cannot be opened.
-ReportDocument makeReport(const ReportJob& job, const DateTime& printed, const Locale& locale);
 
 }  // namespace nautrel

@@ -2,7 +2,7 @@
 
 #include <regex>
 
-#include "printing/report_document.h"
+#include "printing/report_fault.h"
 
 namespace nautrel {
 

@@ -1,6 +1,6 @@
 #include "printing/template_text.h"
 
-#include "printing/report_document.h"
+#include "printing/report_fault.h"
 #include "printing/template_marks.h"
 
 namespace nautrel {

@@ -3,7 +3,6 @@
 #include "shell/Modul1.h"
 #include "shell/Shell.h"
 #include "shell/hourglass.h"
-#include "store/contract.h"
 
 namespace nautrel {
 namespace {
@@ -57,15 +56,14 @@ void Form12::Command1_Click() {
   const auto typed = takeTerm();
   const Term term(typed);
   bool found = false;
-  scan({"Nr", "Land", "Ort", "Platz", "Buddy", "Lang", "Wetter", "Anzug"},
-       [&](const Recordset& row) {
-         for (const auto& [ordinal, box] : kColumns) {
-           if (!term.begins(row.Fields(ordinal), locale())) continue;
-           if ((this->*box).on()) found = true;
-           return found;
-         }
-         return found = false;
-       });
+  scan(columnsOf(kColumns), [&](const Recordset& row) {
+    for (const auto& [ordinal, box] : kColumns) {
+      if (!term.begins(row.Fields(ordinal), locale())) continue;
+      if ((this->*box).on()) found = true;
+      return found;
+    }
+    return found = false;
+  });
   showOutcome("'" + typed + "' not found.");
 }
 

@@ -4,7 +4,6 @@
 #include "shell/Modul1.h"
 #include "shell/Shell.h"
 #include "shell/hourglass.h"
-#include "store/contract.h"
 
 namespace nautrel {
 namespace {
@@ -66,8 +65,7 @@ void Form14::search(const RowTest& isHit, const std::string& prefix) {
   Überprüfen();
   if (!Text3.isEmpty()) return;
   Command1.setEnabled(false);
-  scan({"Nr", "Zeit", "Tiefe", "Tag", "Monat", "Jahr", "Bars", "Bare", "Liter", "Höhe", "Blei"},
-       isHit);
+  scan(columnsOf(kColumns), isHit);
   showOutcome(prefix + "'" + Text4.text() + "' not found");
 }
 

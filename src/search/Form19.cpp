@@ -19,9 +19,9 @@ void Form19::Form_Load() {
 }
 
 void Form19::List1_Click() {
-  if (Text1.text() == "anzeigen") Anzeigen();
-  if (Text1.text() == "bearbeiten") Bearbeiten();
-  if (Text1.text() == "löschen") Löschen();
+  if (Text1.text() == kViewing) Anzeigen();
+  if (Text1.text() == kEditing) Bearbeiten();
+  if (Text1.text() == kDeleting) Löschen();
 }
 
 template <class RecordForm>

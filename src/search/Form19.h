@@ -26,7 +26,10 @@ class Form19 : public Form {
   void Löschen();
 
   ListBox List1{*this, "List1"};
-  /// The record window in use: "anzeigen", "bearbeiten" or "löschen".
+  /// The record window in use.
+  static constexpr const char* kViewing = "anzeigen";
+  static constexpr const char* kEditing = "bearbeiten";
+  static constexpr const char* kDeleting = "löschen";
   TextBox Text1{*this, "Text1", {.visible = false}};
 
  private:

@@ -13,7 +13,6 @@
 #include "shell/Shell.h"
 #include "shell/hourglass.h"
 #include "shell/placing.h"
-#include "store/contract.h"
 
 namespace nautrel {
 namespace {
@@ -153,13 +152,13 @@ void SearchForm::openHit() {
 }
 
 void SearchForm::Anzeigen() {
-  openIn<Form3>("anzeigen", true);
+  openIn<Form3>(Form19::kViewing, true);
 }
 void SearchForm::Bearbeiten() {
-  openIn<Form4>("bearbeiten", false);
+  openIn<Form4>(Form19::kEditing, false);
 }
 void SearchForm::Löschen() {
-  openIn<Form5>("löschen", false);
+  openIn<Form5>(Form19::kDeleting, false);
 }
 
 template <class RecordForm>

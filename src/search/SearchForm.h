@@ -5,6 +5,7 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "store/contract.h"
 #include "store/database.h"
 
 namespace nautrel {
@@ -64,6 +65,15 @@ class SearchForm : public Form {
 
  protected:
   using RowTest = std::function<bool(const Recordset& row)>;
+
+  /// What a pass reads for the boxes that choose among columns: the number and those columns.
+  template <class ColumnBoxes>
+  static Columns columnsOf(const ColumnBoxes& boxes) {
+    Columns names{"Nr"};
+    for (const auto& [ordinal, box] : boxes)
+      if (ordinal >= 0) names.emplace_back(logbookTables().front().columns[ordinal].name);
+    return names;
+  }
 
   /// Takes the rows of the range in table order and lists those that pass the test. Raises 3021 if
   /// no row has the first number.

@@ -16,13 +16,13 @@ constexpr int kWaitForCheckpoint = 1000;  // ms; what waits longer is safe in th
 
 fs::path targetOf(const std::string& path) {
   std::error_code failed;
-  const auto file = fromUtf8(path);
+  const auto file = nativePath(path);
   return fs::is_symlink(file, failed) ? fs::canonical(file, failed) : fs::path{};
 }
 
 /// The engine takes a missing file for CANTOPEN and an empty one for a new database.
 void requireLogbook(const std::string& path) {
-  const fs::path file = fromUtf8(path);
+  const fs::path file = nativePath(path);
   std::error_code failed;
   const auto status = fs::status(file, failed);
   if (status.type() == fs::file_type::not_found) {
@@ -37,7 +37,7 @@ void requireLogbook(const std::string& path) {
 /// Whether changes to the file may still wait in the log beside it.
 bool hasLog(const std::string& path) {
   std::error_code failed;
-  auto log = fs::canonical(fromUtf8(path), failed);
+  auto log = fs::canonical(nativePath(path), failed);
   log += "-wal";
   const auto size = fs::file_size(log, failed);
   return !failed && size > 0;
@@ -46,7 +46,7 @@ bool hasLog(const std::string& path) {
 /// Names the file so that the engine reads it without a log, for which a full disk has no room.
 std::string unchanging(const std::string& path) {
   constexpr auto kHex = "0123456789ABCDEF";
-  const auto file = fs::absolute(fromUtf8(path)).generic_u8string();
+  const auto file = fs::absolute(nativePath(path)).generic_u8string();
   std::string uri = file.starts_with(u8"/") ? "file://" : "file:///";
   for (const char8_t byte : file) {
     const auto character = static_cast<unsigned char>(byte);
@@ -88,10 +88,6 @@ ErrorNumber failureFor(int code) {
 
 }  // namespace
 
-fs::path fromUtf8(const std::string& path) {
-  return fs::path(std::u8string(path.begin(), path.end()));
-}
-
 Connection::Connection(std::string path, std::weak_ptr<Unsettled> unsettled)
     : path_(std::move(path)), target_(targetOf(path_)), unsettled_(std::move(unsettled)) {
   requireLogbook(path_);
@@ -111,7 +107,7 @@ Connection::Connection(std::string path, std::weak_ptr<Unsettled> unsettled)
 Connection::Connection(std::string path) : path_(std::move(path)) {}
 
 Connection Connection::toRead(std::string path) {
-  const auto file = fromUtf8(path);
+  const auto file = nativePath(path);
   auto log = followLinks(file);
   log += "-wal";
   std::error_code failed;
@@ -170,7 +166,7 @@ void Connection::requireSameFile() {
   if (!moved()) return;
   if (sqlite3_file* file = waits_ ? log() : nullptr) file->pMethods->xTruncate(file, 0);
   std::error_code failed;
-  raise(fs::exists(fromUtf8(path_), failed) ? CannotOpenFile : DatabaseNotFound, path_);
+  raise(fs::exists(nativePath(path_), failed) ? CannotOpenFile : DatabaseNotFound, path_);
 }
 
 void Connection::beforeWriting() {

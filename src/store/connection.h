@@ -122,6 +122,4 @@ class Statement {
 /// A table's or column's name as SQL takes it.
 std::string sqlName(std::string_view name);
 
-std::filesystem::path fromUtf8(const std::string& path);
-
 }  // namespace nautrel

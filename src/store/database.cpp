@@ -31,17 +31,11 @@ void Workspace::settle() {
 Database::Database(std::shared_ptr<Connection> connection) : connection_(std::move(connection)) {}
 
 Recordset Database::OpenRecordset(std::string_view table, const Columns& columns) {
-  if (!connection_) raise(ObjectNotSet);
   return Recordset(std::make_unique<TableCursor>(connection_, table, columns));
 }
 
 Recordset Database::OpenDynaset(std::string_view table) {
-  if (!connection_) raise(ObjectNotSet);
   return Recordset(std::make_unique<Dynaset>(connection_, table));
-}
-
-void Database::Close() {
-  connection_.reset();
 }
 
 Recordset::Recordset(std::unique_ptr<Cursor> cursor) : cursor_(std::move(cursor)) {}

@@ -43,8 +43,8 @@ class Workspace {
 /// the table; reading a column that is not among them raises 3265.
 using Columns = std::vector<std::string>;
 
-/// One open connection; closed by Close() or by the end of its life. Recordsets keep it alive, and
-/// changes that wait for settle().
+/// One open connection; closed by the end of its life. Recordsets keep it alive, and changes that
+/// wait for settle().
 class Database {
  public:
   /// A table-type recordset: on the first row, its count exact at once, walked in stored order.
@@ -55,8 +55,6 @@ class Database {
   /// A dynaset: the set of rows is fixed now, each row's values are fetched when the cursor comes
   /// to it. Raises what OpenRecordset raises.
   Recordset OpenDynaset(std::string_view table);
-
-  void Close();
 
  private:
   friend class Transaction;

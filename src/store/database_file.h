@@ -1,9 +1,15 @@
 #pragma once
 
+#include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace nautrel {
+
+/// A logbook and what the database engine lays beside it: by their names alone it knows what
+/// belongs together.
+inline constexpr std::array<std::string_view, 4> kSideFiles{"", "-wal", "-shm", "-journal"};
 
 // What is done to a database's file as a whole, whatever stands in it.
 

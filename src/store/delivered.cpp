@@ -5,6 +5,7 @@
 
 #include "platform/draft_file.h"
 #include "platform/errors.h"
+#include "platform/files.h"
 #include "store/connection.h"
 #include "store/contract.h"
 
@@ -51,11 +52,12 @@ void fill(const Connection& draft) {
 /// Puts the finished draft in its place in one step, unless something stands there.
 bool place(const std::string& draft, const std::string& target) {
   std::error_code failed;
-  fs::create_hard_link(fromUtf8(draft), fromUtf8(target), failed);
+  fs::create_hard_link(nativePath(draft), nativePath(target), failed);
   if (!failed) return true;
   if (failed == std::errc::file_exists) return false;
   // Some file systems know no hard links.
-  if (fs::copy_file(fromUtf8(draft), fromUtf8(target), fs::copy_options::none, failed)) return true;
+  if (fs::copy_file(nativePath(draft), nativePath(target), fs::copy_options::none, failed))
+    return true;
   if (failed == std::errc::file_exists) return false;
   raise(CannotOpenFile, target);
 }
@@ -63,7 +65,7 @@ bool place(const std::string& draft, const std::string& target) {
 }  // namespace
 
 bool createDeliveredLogbook(const std::string& path) {
-  const fs::path target = fromUtf8(path);
+  const fs::path target = nativePath(path);
   std::error_code failed;
   if (fs::exists(fs::symlink_status(target, failed))) return false;
   if (target.has_parent_path() && !fs::is_directory(target.parent_path(), failed))

@@ -1,6 +1,6 @@
 #include <windows.h>
 
-#include "store/connection.h"
+#include "platform/files.h"
 #include "store/lock.h"
 
 namespace nautrel {
@@ -11,7 +11,7 @@ LogbookLock::LogbookLock(const std::string& logbook) {
   const auto file = fileFor(logbook);
   if (file.empty()) return;
   constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  const HANDLE opened = CreateFileW(fromUtf8(file).c_str(), GENERIC_READ, kShared, nullptr,
+  const HANDLE opened = CreateFileW(nativePath(file).c_str(), GENERIC_READ, kShared, nullptr,
                                     OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
   handle_ = reinterpret_cast<std::intptr_t>(opened);
   OVERLAPPED place{};

@@ -1,17 +1,10 @@
 #include "store/program_files.h"
 
 #include "platform/files.h"
+#include "store/database_file.h"
 #include "store/lock.h"
 
 namespace nautrel {
-namespace {
-
-std::string utf8(const std::filesystem::path& path) {
-  const auto text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
-}  // namespace
 
 std::vector<std::string> programFiles(const std::string& logbook) {
   std::vector<std::string> files;
@@ -23,8 +16,8 @@ std::vector<std::string> programFiles(const std::string& logbook) {
   for (const char* text : {"Liste.rpt", "Statistik.rpt", "Benutzer.rpt", "nautrel.rtf"})
     for (const auto& where : {folder, folder / ".delivered"}) files.push_back(utf8(where / text));
   if (auto lock = LogbookLock::fileFor(logbook); !lock.empty()) files.push_back(std::move(lock));
-  for (const char* side : {"", "-wal", "-shm", "-journal"})
-    for (const auto& where : {path, followLinks(path)}) files.push_back(utf8(where) + side);
+  for (const auto side : kSideFiles)
+    for (auto where : {path, followLinks(path)}) files.push_back(utf8(where += side));
   return files;
 }
 

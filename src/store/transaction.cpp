@@ -24,7 +24,6 @@ class Allowance {
 /// A full disk lets the engine take everything back on its own, and would store each later row
 /// alone: so nothing is stored here but by commit().
 Transaction::Transaction(Database& database) : connection_(database.connection_) {
-  if (!connection_) raise(ObjectNotSet);
   connection_->beforeWriting();
   Statement(*connection_, "BEGIN IMMEDIATE").run();
   const auto refuse = [](void* committing) { return *static_cast<bool*>(committing) ? 0 : 1; };

@@ -15,8 +15,8 @@ class Database;
 class Transaction {
  public:
   /// Begins. Raises 3260 (another program is writing, for 5 s by now), 3027 (read-only), 3026 (disk
-  /// full), 3051 or 3024 if the file is no longer the one that was opened, 91 on a closed Database,
-  /// 51 within another one of this Database.
+  /// full), 3051 or 3024 if the file is no longer the one that was opened, 51 within
+  /// another one of this Database.
   explicit Transaction(Database& database);
   ~Transaction();
   Transaction(const Transaction&) = delete;

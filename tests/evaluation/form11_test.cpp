@@ -18,8 +18,8 @@ class GraphMonth : public EvaluationTest {
     return app->Form11();
   }
   static std::string share(Form11& form, int month) {
-    form.MSChart1.setRow(month);
-    return form.MSChart1.RowLabel() + " " + form.MSChart1.Data();
+    const auto& [label, value] = form.MSChart1.entries()[static_cast<std::size_t>(month - 1)];
+    return label + " " + generalText(value, commaLocale());
   }
 };
 

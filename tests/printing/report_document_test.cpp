@@ -1,4 +1,4 @@
-#include "printing/report_document.h"
+#include "printing/make_report.h"
 
 #include <filesystem>
 

@@ -78,9 +78,6 @@ TEST_F(TransactionTest, BeginsOnlyWhereItMayWrite) {
   other.run("BEGIN IMMEDIATE");
   EXPECT_EQ(failureOf([&] { Transaction all(database); }), CouldNotLock);
   other.run("COMMIT");
-  Database closed = database;
-  closed.Close();
-  EXPECT_EQ(failureOf([&] { Transaction all(closed); }), ObjectNotSet);
 }
 
 TEST_F(TransactionTest, AFileExchangedMeanwhileGetsNothing) {

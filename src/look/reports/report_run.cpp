@@ -7,6 +7,7 @@
 #include "look/reports/report_pages.h"
 #include "look/reports/report_preview.h"
 #include "look/system/qt_desktop.h"
+#include "printing/make_report.h"
 
 namespace nautrel {
 namespace {

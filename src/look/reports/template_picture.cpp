@@ -7,7 +7,7 @@
 #include <QImageReader>
 
 #include "look/convert.h"
-#include "printing/report_document.h"
+#include "printing/report_fault.h"
 
 namespace nautrel {
 namespace {

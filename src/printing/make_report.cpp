@@ -1,4 +1,4 @@
-#include "printing/report_document.h"
+#include "printing/make_report.h"
 
 #include <filesystem>
 #include <fstream>
@@ -33,16 +33,6 @@ std::string readTemplate(const std::string& path) {
   return source;
 }
 
-std::string folderOf(const std::string& path) {
-  const auto folder = nativePath(path).parent_path().u8string();
-  return {folder.begin(), folder.end()};
-}
-
-std::string databaseBeside(const std::string& path) {
-  const auto file = (nativePath(path).parent_path() / kLogbookFile).u8string();
-  return {file.begin(), file.end()};
-}
-
 /// What every template may name, beside the columns.
 Values commonValues(const DateTime& printed, const Locale& locale) {
   Values values;
@@ -54,13 +44,14 @@ Values commonValues(const DateTime& printed, const Locale& locale) {
 ReportDocument fill(const ReportJob& job, const DateTime& printed, const Locale& locale) {
   const auto source = readTemplate(job.templatePath);
   const SelectionFormula selection(job.selectionFormula, locale);
+  const auto folder = nativePath(job.templatePath).parent_path();
   Workspace workspace;
-  auto database = workspace.OpenDatabase(databaseBeside(job.templatePath));
+  auto database = workspace.OpenDatabase(utf8(folder / kLogbookFile));
   auto values = commonValues(printed, locale);
   const auto start = source.find_first_not_of(" \t\r\n");
   if (start != std::string::npos && source[start] == '<') {
     auto page = fillPage(source, std::move(database), selection, std::move(values), locale);
-    page.folder = folderOf(job.templatePath);
+    page.folder = utf8(folder);
     return page;
   }
   return fillList(source, std::move(database), selection, std::move(values), locale);
