@@ -55,6 +55,14 @@ constexpr std::array<DiveColumn, kDiveColumns> kColumns{{
     text("Grafik", "Picture", 255),
 }};
 
+// Of a column that the store gets and that is not told here, no file would hold anything.
+static_assert(std::equal(kColumns.begin(), kColumns.end(), std::begin(kLogbuchColumns),
+                         std::end(kLogbuchColumns),
+                         [](const DiveColumn& ours, const Column& column) {
+                           return ours.name == column.name &&
+                                  ours.isFlag == (column.kind == Kind::Flag);
+                         }));
+
 Value valueOf(Cell&& cell) {
   return cell ? Value(std::move(*cell)) : Value::null();
 }

@@ -18,7 +18,7 @@ using Cell = std::optional<std::string>;
 /// A row of a table that holds only texts, by ordinal.
 using TextRow = std::vector<Cell>;
 
-inline constexpr int kDiveColumns = Feld::Grafik + 1;
+inline constexpr int kDiveColumns = std::size(kLogbuchColumns);
 
 /// A dive as its columns, texts and flags as they are stored.
 struct DiveRecord {

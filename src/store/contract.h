@@ -16,8 +16,18 @@ inline constexpr std::string_view Ausrüstung = "Ausrüstung";
 inline constexpr std::string_view Statistik = "Statistik";
 }  // namespace Tabelle
 
-/// The columns of `Logbuch` in order, each once: what stands here is the ordinal `Feld::Nr`, the
-/// name "Nr" and the column itself.
+/// What a column holds: text of any length (empty and Null are different), or a Yes/No flag that
+/// is never Null.
+enum class Kind { Text, Flag };
+
+struct Column {
+  constexpr Column(const char* name, Kind kind = Kind::Text) : name(name), kind(kind) {}
+  std::string_view name;
+  Kind kind;
+};
+
+/// The columns of `Logbuch` in order, each once: `Text(Nr)` is the ordinal `Feld::Nr` and the
+/// column "Nr".
 #define NAUTREL_LOGBUCH(Text, Flag)                                                             \
   Text(Nr), Text(Land), Text(Ort), Text(Platz), Text(Tag), Text(Monat), Text(Jahr), Text(Zeit), \
       Text(Tiefe), Text(Buddy), Text(Lang), Flag(Salz), Flag(Süß), Flag(Ufer), Flag(Boot),      \
@@ -31,14 +41,11 @@ enum Ordinal : int { NAUTREL_LOGBUCH(NAUTREL_ORDINAL, NAUTREL_ORDINAL) };
 #undef NAUTREL_ORDINAL
 }  // namespace Feld
 
-/// What a column holds: text of any length (empty and Null are different), or a Yes/No flag that
-/// is never Null.
-enum class Kind { Text, Flag };
-
-struct Column {
-  std::string_view name;
-  Kind kind = Kind::Text;
-};
+#define NAUTREL_TEXT(name) Column(#name)
+#define NAUTREL_FLAG(name) Column(#name, Kind::Flag)
+inline constexpr Column kLogbuchColumns[] = {NAUTREL_LOGBUCH(NAUTREL_TEXT, NAUTREL_FLAG)};
+#undef NAUTREL_TEXT
+#undef NAUTREL_FLAG
 
 struct Table {
   std::string_view name;

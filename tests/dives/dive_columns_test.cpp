@@ -18,7 +18,7 @@ class DiveColumns : public LogbookTest {
  protected:
   std::vector<Texts> stored(Kind kind) {
     Columns names;
-    for (const auto& column : logbookTables().front().columns)
+    for (const auto& column : kLogbuchColumns)
       if (column.kind == kind && column.name != "Nr") names.emplace_back(column.name);
     return rows("Logbuch", names);
   }
@@ -62,6 +62,26 @@ class DiveColumns : public LogbookTest {
     expectEdited(mark);
   }
 
+  static Texts flagsIn(const Form3& view) {
+    Texts shown;
+    for (auto* control : view.controls()) {
+      if (auto* label = dynamic_cast<Label*>(control)) shown.push_back(label->caption());
+      if (dynamic_cast<Image*>(control)) shown.push_back(control->visible() ? "Yes" : "No");
+    }
+    return shown;
+  }
+  void expectTextsIn(const Form3& view) {
+    EXPECT_EQ(view.Text5.text(), "25.12.2007");
+    std::set<std::string> shown{"25", "12", "2007"};
+    for (auto* control : view.controls())
+      if (const auto* box = dynamic_cast<TextBox*>(control)) shown.insert(box->text());
+    for (const auto& box : boxes) {
+      EXPECT_TRUE(shown.contains(text(box, false))) << box;
+      const auto* same = dynamic_cast<TextBox*>(view.control(box));
+      EXPECT_TRUE(!same || same == &view.Text5 || same->text() == text(box, false)) << box;
+    }
+  }
+
   /// By column; what the window has more is for columns behind these.
   Texts boxes = {"Text2",  "Text3",  "Text4",  "Text5",  "Text6",  "Text7",
                  "Text9",  "Text10", "Text8",  "Text11", "Text17", "Text13",
@@ -92,29 +112,12 @@ TEST_F(DiveColumns, AllOfTheContractComeBackFromInsertViewAndEdit) {
 
   click(app->MDIForm1().Menü3a);
   auto& view = app->Form3();
-  const auto face = [&] {
-    Texts shown;
-    for (auto* control : view.controls())
-      if (auto* label = dynamic_cast<Label*>(control))
-        shown.push_back(label->caption());
-      else if (dynamic_cast<Image*>(control))
-        shown.push_back(control->visible() ? "Yes" : "No");
-    return shown;
-  };
   view.Leeren();
-  std::set<Texts> faces{face()};  // a flag shows where there is another face
+  std::set<Texts> looks{flagsIn(view)};  // a flag shows where View looks another way
   press(view.Data1, Arrow::First);
   for (const auto& mark : marks) {
-    EXPECT_TRUE(faces.insert(face()).second) << mark;
-    EXPECT_EQ(view.Text5.text(), "25.12.2007");
-    std::set<std::string> shown{"25", "12", "2007"};
-    for (auto* control : view.controls())
-      if (const auto* box = dynamic_cast<TextBox*>(control)) shown.insert(box->text());
-    for (const auto& box : boxes) {
-      EXPECT_TRUE(shown.contains(text(box, false))) << box;
-      const auto* same = dynamic_cast<TextBox*>(view.control(box));
-      EXPECT_TRUE(!same || same == &view.Text5 || same->text() == text(box, false)) << box;
-    }
+    EXPECT_TRUE(looks.insert(flagsIn(view)).second) << mark;
+    expectTextsIn(view);
     press(view.Data1, Arrow::Next);
   }
 
