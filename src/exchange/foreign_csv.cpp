@@ -135,8 +135,8 @@ void ForeignCsv::askForDates() {
 
 void ForeignCsv::askForDurations() {
   const auto place = placeOf(Feld::Zeit);
-  // A head that names minutes has them before the colon.
-  bool told = columns_[place].unit == CsvUnit::Minute;
+  // So one program heads its minutes and seconds.
+  bool told = lowerAscii(columns_[place].head) == "duration [min]";
   std::string_view example;
   forCells(place, [&](std::string_view cell) {
     const auto duration = readDuration(cell);

@@ -7,7 +7,10 @@ namespace {
 
 std::string sourceOf(const SourceDive& dive) {
   auto text = "Line " + std::to_string(dive.line);
-  return dive.id.empty() ? text : text + " (" + shown(dive.id) + ")";
+  const auto number = dive.number ? std::to_string(*dive.number) : std::string();
+  if (!dive.id.empty()) text += " (" + shown(dive.id) + ")";
+  if (!number.empty() && number != dive.id) text += ", there dive " + number;
+  return text;
 }
 
 std::string fateOf(const PlannedDive& dive) {

@@ -1,7 +1,6 @@
 #include "exchange/output_file.h"
 
 #include <algorithm>
-#include <random>
 #include <system_error>
 
 #include "exchange/format.h"
@@ -13,30 +12,26 @@ namespace {
 
 constexpr std::size_t kMuch = 256 << 10;
 
-fs::path draftBeside(const fs::path& target) {
-  auto draft = target;
-  return draft += ".new" + std::to_string(std::random_device{}());
+std::string asText(const fs::path& path) {
+  const auto text = path.u8string();
+  return std::string(text.begin(), text.end());
 }
 
 }  // namespace
 
 OutputFile::OutputFile(const std::string& target, const std::vector<std::string>& ownFiles,
                        bool overwrite)
-    : name_("'" + target + "'"), target_(followLinks(nativePath(target))), overwrite_(overwrite) {
+    : name_("'" + target + "'"),
+      target_(followLinks(nativePath(target))),
+      overwrite_(overwrite),
+      draft_(asText(target_)) {
   const auto isIt = [&](const std::string& own) { return sameFile(target_, nativePath(own)); };
   if (std::any_of(ownFiles.begin(), ownFiles.end(), isIt))
     throw Refused{name_ + " belongs to Nautrel itself. Please choose another name."};
   refuseOverwriting();
-  draft_ = draftBeside(target_);
-  if (canBeWritten(target_)) out_.open(draft_, std::ios::binary | std::ios::trunc);
+  if (canBeWritten(target_))
+    out_.open(nativePath(draft_.path()), std::ios::binary | std::ios::trunc);
   if (!out_.is_open()) throw Refused{name_ + " cannot be written."};
-}
-
-OutputFile::~OutputFile() {
-  if (draft_.empty()) return;
-  out_.close();
-  std::error_code ignored;
-  fs::remove(draft_, ignored);
 }
 
 void OutputFile::refuseOverwriting() const {
@@ -68,9 +63,8 @@ void OutputFile::commit() {
   if (!out_) refuseForLackOfRoom();
   refuseOverwriting();
   std::error_code failed;
-  fs::rename(draft_, target_, failed);
+  fs::rename(nativePath(draft_.path()), target_, failed);
   if (failed) throw Refused{name_ + " cannot be written."};
-  draft_.clear();
 }
 
 }  // namespace nautrel::exchange

@@ -6,17 +6,18 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/draft_file.h"
+
 namespace nautrel::exchange {
 
 /// A file that comes into being whole or not at all: it is written under another name beside its
-/// place and moves there with commit(). Every operation raises Refused.
+/// place and moves there with commit(); without that nothing stays behind. Every operation raises
+/// Refused.
 class OutputFile {
  public:
   /// Refuses a file of the program's own, a place that cannot be written, and a file that is there
   /// unless it may be replaced.
   OutputFile(const std::string& target, const std::vector<std::string>& ownFiles, bool overwrite);
-  /// Without commit() nothing stays behind.
-  ~OutputFile();
   OutputFile(const OutputFile&) = delete;
   OutputFile& operator=(const OutputFile&) = delete;
 
@@ -31,7 +32,7 @@ class OutputFile {
   std::string name_;
   std::filesystem::path target_;
   bool overwrite_;
-  std::filesystem::path draft_;
+  DraftFile draft_;
   std::ofstream out_;
   std::string waiting_;
 };

@@ -1,18 +1,29 @@
 #include "exchange/plain_text.h"
 
+#include <algorithm>
+
 #include "platform/text.h"
 
 namespace nautrel::exchange {
 namespace {
 
-constexpr std::string_view kWhite = " \t\r\n";
+constexpr auto isLineEnd = [](char character) { return character == '\n' || character == '\r'; };
+constexpr auto isWhite = [](char character) {
+  return character == ' ' || character == '\t' || isLineEnd(character);
+};
+
+/// The place of the first character of such a kind, the size of the text without one.
+template <class Kind>
+std::size_t findFirst(std::string_view text, const Kind& isIt) {
+  return static_cast<std::size_t>(std::find_if(text.begin(), text.end(), isIt) - text.begin());
+}
 
 }  // namespace
 
 std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(kWhite);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kWhite) - first + 1);
+  while (!text.empty() && isWhite(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isWhite(text.back())) text.remove_suffix(1);
+  return text;
 }
 
 std::vector<std::string_view> splitAt(std::string_view text, std::string_view separator) {
@@ -28,9 +39,9 @@ std::vector<std::string_view> splitAt(std::string_view text, std::string_view se
 std::vector<std::string_view> linesOf(std::string_view text) {
   std::vector<std::string_view> lines;
   for (;;) {
-    const auto end = text.find_first_of("\r\n");
+    const auto end = findFirst(text, isLineEnd);
     lines.push_back(text.substr(0, end));
-    if (end == std::string_view::npos) return lines;
+    if (end == text.size()) return lines;
     text.remove_prefix(end + (text.substr(end, 2) == "\r\n" ? 2 : 1));
   }
 }
@@ -38,10 +49,9 @@ std::vector<std::string_view> linesOf(std::string_view text) {
 std::string collapsed(std::string_view text) {
   std::string result;
   for (text = trimmed(text); !text.empty();) {
-    const auto end = text.find_first_of(kWhite);
+    const auto end = findFirst(text, isWhite);
     if (!result.empty()) result += ' ';
     result += text.substr(0, end);
-    if (end == std::string_view::npos) break;
     text = trimmed(text.substr(end));
   }
   return result;

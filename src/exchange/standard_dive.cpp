@@ -152,6 +152,7 @@ bool saysNothing(int column, const Cell& text) {
 }
 
 bool meansTheSame(int column, const Cell& fromFile, const Cell& exact) {
+  if (fromFile == exact) return true;
   if (saysNothing(column, fromFile) || saysNothing(column, exact))
     return saysNothing(column, fromFile) == saysNothing(column, exact);
   switch (meaningOf(column)) {

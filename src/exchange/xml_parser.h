@@ -13,6 +13,7 @@ class XmlAttributes {
   explicit XmlAttributes(const char* const* pairs) : pairs_(pairs) {}
   /// Without blanks around it; empty if there is none.
   std::string_view operator[](std::string_view name) const;
+  bool empty() const { return *pairs_ == nullptr; }
 
  private:
   const char* const* pairs_;

@@ -86,14 +86,16 @@ std::string xmlCharactersOf(std::string_view text) {
 }
 
 void appendEscaped(std::string& xml, std::string_view text) {
+  const auto isEscaped = [](char character) {
+    return character == '&' || character == '<' || character == '>' || character == '"' ||
+           character == '\r';
+  };
   const auto append = [&](std::string_view run) {
-    while (!run.empty()) {
-      const auto end = std::min(run.find_first_of("&<>\"\r"), run.size());
-      xml += run.substr(0, end);
-      run.remove_prefix(end);
-      if (run.empty()) break;
-      xml += escapeOf(run.front());
-      run.remove_prefix(1);
+    for (const char* at = run.begin(); at != run.end();) {
+      const char* const end = std::find_if(at, run.end(), isEscaped);
+      xml.append(at, end);
+      at = end;
+      if (at != run.end()) xml += escapeOf(*at++);
     }
   };
   forRuns(text, append, [] {});

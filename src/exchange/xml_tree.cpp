@@ -55,6 +55,7 @@ void XmlCollector::begin(std::string_view name, const XmlAttributes& attributes,
   auto& element = open_.emplace_back();
   element.name = name;
   element.line = line;
+  if (attributes.empty()) return;
   for (const auto key : kAttributes)
     if (const auto value = attributes[key]; !value.empty())
       element.attributes.emplace_back(key, value);

@@ -1,5 +1,6 @@
 #include "platform/draft_file.h"
 
+#include <algorithm>
 #include <array>
 #include <random>
 
