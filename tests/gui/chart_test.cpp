@@ -135,6 +135,15 @@ TEST_F(ChartWidgetTest, TurnsOnlyWithCtrlInSpaceAndIfAllowed) {
   }
 }
 
+TEST_F(ChartWidgetTest, PaintsAndPointsWithinItsEdge) {
+  int steps = 0;
+  chart.edge = [&](const auto&) { ++steps; };
+  chart.grab();
+  QHelpEvent pointing(QEvent::ToolTip, {200, 100}, {200, 100});
+  QApplication::sendEvent(&chart, &pointing);
+  EXPECT_EQ(steps, 2);
+}
+
 TEST_F(ChartWidgetTest, CopiesPictureAndRowsTogether) {
   QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
   ChartData data{"Month", "Percent", {{"Jan", 100.0 / 3}, {"Feb", 0}}};

@@ -42,6 +42,14 @@ TEST_F(GuiTest, TheChartOnTheScreenFollowsTheOptionsAndNothingJumps) {
   }
 }
 
+TEST_F(GuiTest, AFaultWhileAChartIsPaintedEndsTheProgram) {
+  addDives(1, 1);
+  auto& form = open(&MDIForm1::Menü4b, &Nautrel::Form10);
+  widget<ChartWidget>(form.MSChart1).edge([] { throw std::bad_alloc(); });
+  ASSERT_TRUE(desktop->failure());
+  EXPECT_EQ(desktop->failure()->number, OutOfMemory);
+}
+
 /// The program over the real desktop.
 class EvaluationDesktop : public GuiTest {
  protected:

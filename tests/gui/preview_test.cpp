@@ -14,6 +14,7 @@
 #include <set>
 
 #include "gui_test.h"
+#include "look/reports/pages_view.h"
 #include "look/reports/report_pages.h"
 #include "store/delivered.h"
 
@@ -26,8 +27,12 @@ class CountedPages : public ReportPages {
   CountedPages()
       : ReportPages({QPageSize(QPageSize::A4), QPageLayout::Portrait, {15, 15, 15, 15}}) {}
   int count() const override { return 300; }
-  void paint(QPainter&, int page) const override { painted.insert(page); }
+  void paint(QPainter&, int page) const override {
+    painted.insert(page);
+    if (fails) throw std::bad_alloc();
+  }
   mutable std::set<int> painted;
+  bool fails = false;
 };
 
 class Preview : public GuiTest {
@@ -120,6 +125,39 @@ TEST_F(Preview, ZoomsFromAWholePage) {
   trigger("Next page");
   zoom().setCurrentText("25 %");
   EXPECT_EQ(page().value(), 2);
+}
+
+TEST_F(Preview, AFaultWhileAPageIsPaintedGoesNoFurtherThanItsEdge) {
+  int faults = 0;
+  preview.setEdge([&](const auto& step) {
+    try {
+      step();
+    } catch (const std::bad_alloc&) {
+      ++faults;
+    }
+  });
+  pages.fails = true;
+  preview.grab();
+  EXPECT_EQ(faults, 1);
+}
+
+TEST(ReportRun, AFaultWhileAPageIsPaintedEndsTheProgram) {
+  const TemporaryFolder folder;
+  FolderDesktop desktop(folder.path());
+  createDeliveredLogbook(folder.file("Logbuch.mdb"));
+  QTimer::singleShot(0, [] {
+    auto& preview = dynamic_cast<ReportPreview&>(*QApplication::activeModalWidget());
+    auto* view = preview.findChild<QScrollArea*>()->widget();
+    dynamic_cast<PagesView&>(*view).edge([] { throw std::bad_alloc(); });
+    preview.reject();
+  });
+  EXPECT_THROW(desktop.runReport({.templatePath = folder.write("Some.rpt", "<p>A card</p>")}),
+               ProgramEnd);
+  ASSERT_TRUE(desktop.failure());
+  EXPECT_EQ(desktop.failure()->number, OutOfMemory);
+  // The toolkit opens no dialog any more until a loop has begun anew.
+  QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+  QApplication::exec();
 }
 
 TEST(ReportRun, AMissingTemplateIsToldByItsName) {

@@ -8,11 +8,16 @@
 #include "look/frame/form_view.h"
 #include "look/frame/qt_looks.h"
 #include "look/system/qt_desktop.h"
+#include "platform/form.h"
+#include "platform/program.h"
 
 namespace nautrel {
 
 ChartBinding::ChartBinding(Chart& chart, ChartWidget& widget)
-    : Binding(chart, widget), chart_(chart), out_(widget) {}
+    : Binding(chart, widget), chart_(chart), out_(widget) {
+  auto& desktop = chart.form().program().desktop();
+  widget.edge = [&desktop](const auto& step) { desktop.atEdge(step); };
+}
 
 void ChartBinding::pushContent() {
   ChartData data{toQt(chart_.categoryTitle()),

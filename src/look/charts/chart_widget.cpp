@@ -62,19 +62,22 @@ void ChartWidget::paint(QPaintDevice* device, const QPalette& palette) const {
 }
 
 void ChartWidget::paintEvent(QPaintEvent*) {
-  paint(this, palette());
+  edge([this] { paint(this, palette()); });
 }
 
 bool ChartWidget::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
-  const auto* help = static_cast<QHelpEvent*>(event);
+  edge([&] { tellRow(*static_cast<QHelpEvent*>(event)); });
+  return true;
+}
+
+void ChartWidget::tellRow(const QHelpEvent& event) const {
   const ChartLayout layout(data_, turn_, QFontMetricsF(font()), rect());
-  const int row = layout.rowAt(help->pos());
+  const int row = layout.rowAt(event.pos());
   if (row >= 0 && row < static_cast<int>(data_.rows.size()))
-    QToolTip::showText(help->globalPos(), describe(data_.rows[static_cast<std::size_t>(row)]));
+    QToolTip::showText(event.globalPos(), describe(data_.rows[static_cast<std::size_t>(row)]));
   else
     QToolTip::hideText();
-  return true;
 }
 
 void ChartWidget::mousePressEvent(QMouseEvent* event) {

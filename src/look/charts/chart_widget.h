@@ -5,7 +5,9 @@
 
 #include "look/charts/chart_data.h"
 #include "look/charts/chart_space.h"
+#include "look/edge.h"
 
+class QHelpEvent;
 class QMimeData;
 
 namespace nautrel {
@@ -25,6 +27,9 @@ class ChartWidget : public QWidget {
   /// tab-separated text.
   std::unique_ptr<QMimeData> copy() const;
 
+  /// Around all painting and pointing.
+  Edge edge = [](const auto& step) { step(); };
+
   QSize sizeHint() const override { return {700, 390}; }
   QSize minimumSizeHint() const override { return {300, 200}; }
 
@@ -37,6 +42,7 @@ class ChartWidget : public QWidget {
 
  private:
   void paint(QPaintDevice* device, const QPalette& palette) const;
+  void tellRow(const QHelpEvent& event) const;
   void turnBy(QPointF distance);
 
   ChartData data_;

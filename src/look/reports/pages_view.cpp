@@ -46,11 +46,14 @@ int PagesView::pageAt(int y) const {
 }
 
 void PagesView::paintEvent(QPaintEvent* event) {
+  edge([&] { paintSheets(event->rect()); });
+}
+
+void PagesView::paintSheets(const QRect& shown) {
   QPainter painter(this);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-  const int last = pageAt(event->rect().bottom());
-  for (int page = pageAt(event->rect().top() - kGap); page <= last; ++page)
-    paintSheet(painter, page);
+  const int last = pageAt(shown.bottom());
+  for (int page = pageAt(shown.top() - kGap); page <= last; ++page) paintSheet(painter, page);
 }
 
 void PagesView::paintSheet(QPainter& painter, int page) const {

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "look/edge.h"
+
 namespace nautrel {
 
 class ReportPages;
@@ -20,12 +22,16 @@ class PagesView : public QWidget {
   int topOf(int page) const;
   int pageAt(int y) const;
 
+  /// Around all painting.
+  Edge edge = [](const auto& step) { step(); };
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   double pixelsPerTwip() const;
   QSizeF sheet() const;
+  void paintSheets(const QRect& shown);
   void paintSheet(QPainter& painter, int page) const;
 
   const ReportPages& pages_;

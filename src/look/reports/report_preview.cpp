@@ -59,6 +59,10 @@ ReportPreview::ReportPreview(const ReportPages& pages, const QString& title, QWi
   fitScreen();
 }
 
+void ReportPreview::setEdge(Edge edge) {
+  view_->edge = std::move(edge);
+}
+
 // The window with its frame stays on its screen, at any scale.
 void ReportPreview::fitScreen() {
   constexpr QSize kFrame(16, 48);

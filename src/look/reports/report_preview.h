@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <functional>
 
+#include "look/edge.h"
+
 class QComboBox;
 class QLabel;
 class QScrollArea;
@@ -24,6 +26,8 @@ class ReportPreview : public QDialog {
   std::function<void()> print;
   /// Called by "Save as PDF...".
   std::function<void()> save;
+  /// Around the painting of the pages.
+  void setEdge(Edge edge);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -112,6 +112,7 @@ void QtDesktop::run(const ReportJob& job) {
     ReportPreview window(printout.pages(), title, parentWindow());
     window.print = [&] { telling([&] { printout.printAsked(window); }); };
     window.save = [&] { telling([&] { printout.save(); }); };
+    window.setEdge([this](const auto& step) { atEdge(step); });
     window.exec();
   });
 }
