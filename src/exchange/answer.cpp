@@ -93,7 +93,7 @@ Answer answerOf(const Backup& backup) {
 Answer answerOf(const Restored& restored, const std::string& file) {
   auto text = "The logbook is now the one of '" + file + "'.\n";
   if (!restored.kept.empty())
-    text += "The one before is kept as '" + restored.kept + "'" +
+    text += "What was there is kept as '" + restored.kept + "'" +
             (restored.logKept ? ", with its log, which could not be taken in" : "") + ".\n";
   return {text, {{"file", file}, {"kept", restored.kept}, {"logKept", restored.logKept}}};
 }

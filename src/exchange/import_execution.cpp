@@ -1,4 +1,5 @@
 #include "exchange/import_plan.h"
+#include "platform/errors.h"
 #include "store/transaction.h"
 
 namespace nautrel::exchange {
@@ -55,7 +56,9 @@ bool ImportPlan::execute(Workspace& workspace, const std::string& logbook,
     appendEquipment(database);
     transaction.commit();
   }
-  workspace.settle();
+  // What is committed is stored: on a full disk it waits in the log, and is no reason to say it
+  // failed.
+  resumeNext([&] { workspace.settle(); });
   return true;
 }
 

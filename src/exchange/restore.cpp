@@ -103,7 +103,9 @@ void Exchange::refuse() const {
 
 Restored Exchange::result() const {
   std::error_code failed;
-  return {fs::exists(kept_, failed) ? utf8(kept_) : "", hasLog(kept_)};
+  const bool log = hasLog(kept_);
+  if (fs::exists(kept_, failed)) return {utf8(kept_), log};
+  return {log ? utf8(beside(kept_, "-wal")) : std::string()};
 }
 
 /// Whether a file is a dated name of the logbook, or of its log, and nothing but that.
