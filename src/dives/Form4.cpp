@@ -23,15 +23,6 @@ Form4::Form4(Shell& app)
   Command3.setCancel();
   SSTab1.pageHolds(3, {&Image5});
   setTabEnd({&Data1, &Command4, &Command1, &Command2, &Command3, &SSTab1});
-  selectTextOnEntry();
-  Data1.Reposition = [this] { Data1_Reposition(); };
-  Command1.Click = [this] { Command1_Click(); };
-  Command2.Click = [this] { Command2_Click(); };
-  Command3.Click = [this] { Command3_Click(); };
-  Command4.Click = [this] { Command4_Click(); };
-}
-
-void Form4::selectTextOnEntry() {
   eachColumn(*this, [](auto&, TextBox& box) {
     if (box.locked()) return;
     box.GotFocus = [&box, before = box.GotFocus] {
@@ -39,6 +30,11 @@ void Form4::selectTextOnEntry() {
       box.selectAll();
     };
   });
+  Data1.Reposition = [this] { Data1_Reposition(); };
+  Command1.Click = [this] { Command1_Click(); };
+  Command2.Click = [this] { Command2_Click(); };
+  Command3.Click = [this] { Command3_Click(); };
+  Command4.Click = [this] { Command4_Click(); };
 }
 
 void Form4::Form_Load() {

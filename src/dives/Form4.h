@@ -36,7 +36,6 @@ class Form4 : public DiveEntryForm {
   Button Command4{*this, "Command4", "Jump to dive-#"};
 
  private:
-  void selectTextOnEntry();
   void showRow();
 };
 

@@ -41,9 +41,8 @@ Form12::Form12(Shell& app)
                      {.opened = windowEntry(kNumber).search,
                       .order = "First dive-# must be lower than last dive-#."}) {
   Frame3.holds({&Check1, &Check2, &Check3, &Check4, &Check5, &Check6, &Check7});
-  setTabOrder({&Combo1, &Text1,   &SpinButton1, &Text2,   &SpinButton2, &Check1,   &Check2,
-               &Check3, &Check4,  &Check5,      &Check6,  &Check7,      &Command1, &Command2,
-               &List1,  &Option1, &Option2,     &Option3, &Command3,    &Command4});
+  setTabOrder({&Combo1, &Text1, &SpinButton1, &Text2, &SpinButton2, &Check1, &Check2, &Check3,
+               &Check4, &Check5, &Check6, &Check7});
 }
 
 // The verdict outlives its row on purpose: it changes only with a column that begins with the term

@@ -32,10 +32,9 @@ Form14::Form14(Shell& app)
                   .resumesNext = true}) {
   Frame4.holds({&Check1, &Check2, &Check3, &Check4, &Check5, &Check6, &Check7, &Check8, &Check9,
                 &Check10, &Check11});
-  setTabOrder({&Text4,   &Text1,   &SpinButton1, &Text2,   &SpinButton2, &Option4,  &Option5,
-               &Option6, &Check1,  &Check2,      &Check3,  &Check4,      &Check5,   &Check6,
-               &Check7,  &Check8,  &Check9,      &Check10, &Check11,     &Command1, &Command2,
-               &List1,   &Option1, &Option2,     &Option3, &Command3,    &Command4});
+  setTabOrder({&Text4, &Text1, &SpinButton1, &Text2, &SpinButton2, &Option4, &Option5, &Option6,
+               &Check1, &Check2, &Check3, &Check4, &Check5, &Check6, &Check7, &Check8, &Check9,
+               &Check10, &Check11});
   Check6.Click = [this] { Check6_Click(); };
 }
 

@@ -14,8 +14,7 @@ Form20::Form20(Shell& app)
                       .rangeFiltered = false,
                       .view = "&View",
                       .close = "&Close"}) {
-  setTabOrder({&Combo1, &Text1, &SpinButton1, &Text2, &SpinButton2, &Check1, &Command1, &Command2,
-               &List1, &Option1, &Option2, &Option3, &Command3, &Command4});
+  setTabOrder({&Combo1, &Text1, &SpinButton1, &Text2, &SpinButton2, &Check1});
 }
 
 // The whole window is disabled while the pass runs, and stays so if the pass fails.

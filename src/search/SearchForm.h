@@ -48,10 +48,10 @@ class SearchForm : public Form {
   void Überprüfen();
 
   TextBox Text1{*this, "Text1", {.maxLength = 4}};
-  TextBox Text2{*this, "Text2", {.maxLength = 4}};
-  TextBox Text3{*this, "Text3", {.visible = false}};
   SpinButton SpinButton1{*this, "SpinButton1"};
+  TextBox Text2{*this, "Text2", {.maxLength = 4}};
   SpinButton SpinButton2{*this, "SpinButton2"};
+  TextBox Text3{*this, "Text3", {.visible = false}};
   Button Command1{*this, "Command1", "&Start search"};
   Button Command2{*this, "Command2", "&New search"};
   ListBox List1{*this, "List1"};
@@ -71,7 +71,7 @@ class SearchForm : public Form {
   static Columns columnsOf(const ColumnBoxes& boxes) {
     Columns names{"Nr"};
     for (const auto& [ordinal, box] : boxes)
-      if (ordinal >= 0) names.emplace_back(logbookTables().front().columns[ordinal].name);
+      if (ordinal >= 0) names.emplace_back(kLogbuchColumns[ordinal].name);
     return names;
   }
 

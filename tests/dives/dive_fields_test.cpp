@@ -128,17 +128,6 @@ TEST_F(DiveFields, DoubtfulValuesAskAndNoReturnsTheFocus) {
   EXPECT_FALSE(form.Check2.on());
 }
 
-TEST_F(DiveFields, EnterMakesALineInTheCommentsAlone) {
-  auto& form = open();
-  choose(form.SSTab1, 1);
-  type(form.Text11, "a");
-  press(form, Key::Enter);
-  typeOn(form, "b");
-  EXPECT_EQ(form.Text11.text(), "a\nb");
-  choose(form.SSTab1, 0);
-  EXPECT_TRUE(form.Command1.isDefault());
-}
-
 TEST_F(DiveFields, ABoxTakesNoMoreThanItHolds) {
   auto& form = open();
   paste(form.Text2, "Äußere Hebriden, Schottland");

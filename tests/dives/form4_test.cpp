@@ -15,7 +15,7 @@ class EditDives : public LogbookTest {
   }
 };
 
-TEST_F(EditDives, OpensOnTheFirstDiveWithItsTextSelected) {
+TEST_F(EditDives, OpensOnTheFirstDiveAndMakesALineInTheCommentsAlone) {
   addDives(5, 7);
   auto& form = open();
   EXPECT_EQ(form.caption(), "Edit dives - Number 5");
@@ -24,10 +24,10 @@ TEST_F(EditDives, OpensOnTheFirstDiveWithItsTextSelected) {
   EXPECT_EQ(form.Text2.text(), "Malta");
   choose(form.SSTab1, 1);
   type(form.Text11, "a");
-  focus(form.Command4);
-  type(form.Text11, "b");
   press(form, Key::Enter);
-  EXPECT_EQ(form.Text11.text(), "b\n");
+  EXPECT_EQ(form.Text11.text(), "a\n");
+  focus(form.Command4);
+  EXPECT_TRUE(form.Command1.isDefault());
 }
 
 TEST_F(EditDives, ARowOfAnotherToolShowsThroughTheRulesOfTheBoxes) {
