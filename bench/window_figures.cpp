@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // What a diver with 9,998 dives waits for, in the real windows: prints each figure beside its goal.
 // Run it under a display, or with QT_QPA_PLATFORM=offscreen.
 

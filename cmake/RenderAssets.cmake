@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
 # Pictures are kept as SVG and rendered while building, so that the program shows them with Qt's
 # base modules alone.
 #

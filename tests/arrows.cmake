@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
 # Which room knows which: `cmake -P tests/arrows.cmake` names every include that is not in this
 # table, with its file and line. A name with a slash is a header that is known, and not its room.
 # There is no circle in it; one that must be is to be written here with its reason.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "app/Nautrel.h"
 
 #include "app/Form16.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "calculators/Form22.h"
 
 #include "shell/Shell.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "evaluation/Form10.h"
 
 #include "evaluation/logbook_pass.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/rich_text_box.h"
 
 #include "platform/text.h"

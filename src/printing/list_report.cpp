@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "printing/list_report.h"
 
 #include "printing/list_template.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/Form14.h"
 
 #include "dives/dive_columns.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "shell/return_to_search.h"
 
 #include "shell/Shell.h"

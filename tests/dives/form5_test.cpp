@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "dives/Form5.h"
 
 #include "support/logbook.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "evaluation/figures.h"
 
 #include "store/store_test.h"

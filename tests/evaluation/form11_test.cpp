@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "evaluation/Form11.h"
 
 #include "evaluation/evaluation_test.h"

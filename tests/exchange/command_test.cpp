@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #if __has_include(<sys/wait.h>)
 
 #include "exchange/command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "exchange/import_report.h"
 #include "exchange_test.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #if __has_include(<sys/ptrace.h>)
 
 #include "each_call.h"

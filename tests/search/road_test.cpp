@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "dives/Form3.h"
 #include "dives/Form4.h"
 #include "dives/Form5.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include <X11/XKBlib.h>
 #include <QGuiApplication>
 
