@@ -9,28 +9,6 @@
 
 namespace nautrel {
 
-class Form1;
-class Form2;
-class Form3;
-class Form4;
-class Form5;
-class Form6;
-class Form7;
-class Form8;
-class Form9;
-class Form10;
-class Form11;
-class Form12;
-class Form13;
-class Form14;
-class Form15;
-class Form16;
-class Form18;
-class Form19;
-class Form20;
-class Form21;
-class Form22;
-
 /// The program itself: makes the main window and all the others, and hands itself to them.
 class Nautrel : public Shell {
  public:

@@ -72,7 +72,6 @@ class Form {
   Control* activeControl() const { return active_; }
   const std::vector<Control*>& tabOrder() const { return tabOrder_; }
   Button* defaultButton() const { return default_; }
-  Button* cancelButton() const { return cancel_; }
 
   /// Whether Enter belongs to the box that has the focus: no default button takes it there.
   bool wantsEnter() const;

@@ -31,7 +31,6 @@ class Cursor {
   virtual void first() = 0;
   virtual void last() = 0;
   virtual void next() = 0;
-  virtual void previous() = 0;
   virtual void move(int rows) = 0;
   bool atEnd() {
     arrive();

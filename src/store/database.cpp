@@ -81,11 +81,6 @@ void Recordset::MoveNext() {
   if (!Eof()) raiseMoved();
 }
 
-void Recordset::MovePrevious() {
-  cursor().previous();
-  raiseMoved();
-}
-
 void Recordset::Move(int rows) {
   cursor().move(rows);
   raiseMoved();

@@ -85,8 +85,6 @@ class Recordset {
   void MoveLast();
   /// Off the last row Eof() becomes true; raises 3021 when it is true already.
   void MoveNext();
-  /// Raises 3021 on the first row and stays there; Bof is no place to stand on.
-  void MovePrevious();
   /// Moves by `rows`, also backwards; 0 fetches the row again. Beyond either end it raises 3021 and
   /// has no effect: the row stays the current one, and what is pending on it stays pending.
   void Move(int rows);

@@ -41,10 +41,6 @@ void Dynaset::next() {
   drop();
 }
 
-void Dynaset::previous() {
-  goTo(target(-1));
-}
-
 void Dynaset::move(int rows) {
   if (rows == 0 && inGap_) raise(RecordDeleted);
   goTo(target(rows));

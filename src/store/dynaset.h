@@ -20,7 +20,6 @@ class Dynaset final : public Cursor {
   void first() override;
   void last() override;
   void next() override;
-  void previous() override;
   void move(int rows) override;
 
  private:

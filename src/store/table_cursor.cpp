@@ -53,10 +53,6 @@ void TableCursor::next() {
     live() ? step() : seek(row_ + 1);
 }
 
-void TableCursor::previous() {
-  move(-1);
-}
-
 void TableCursor::move(int rows) {
   arrive();
   const bool nowhere = place_ == Place::Before || atEnd();

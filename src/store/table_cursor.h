@@ -23,7 +23,6 @@ class TableCursor final : public Cursor {
   void first() override;
   void last() override;
   void next() override;
-  void previous() override;
   void move(int rows) override;
 
  private:

@@ -27,10 +27,10 @@ TEST_P(RecordsetTest, AnEmptySetHasNoPlaceToStandOn) {
   EXPECT_EQ(dives.AbsolutePosition(), -1);
   bool moved = false;
   dives.moved = [&] { moved = true; };
-  const std::function<void()> actions[] = {
-      [&] { dives.MoveFirst(); },    [&] { dives.MoveLast(); }, [&] { dives.MoveNext(); },
-      [&] { dives.MovePrevious(); }, [&] { dives.Move(0); },    [&] { dives.Fields(0); },
-      [&] { dives.Edit(); },         [&] { dives.Delete(); }};
+  const std::function<void()> actions[] = {[&] { dives.MoveFirst(); }, [&] { dives.MoveLast(); },
+                                           [&] { dives.MoveNext(); },  [&] { dives.Move(0); },
+                                           [&] { dives.Fields(0); },   [&] { dives.Edit(); },
+                                           [&] { dives.Delete(); }};
   for (const auto& action : actions) EXPECT_EQ(failureOf(action), NoCurrentRecord);
   EXPECT_FALSE(moved);
 }
@@ -44,7 +44,7 @@ TEST_P(RecordsetTest, WalksInStoredOrderWhateverTheNumbers) {
   EXPECT_EQ(walked, "7 3 100 ");
   EXPECT_EQ(failureOf([&] { dives.Fields(0); }), NoCurrentRecord);
   EXPECT_EQ(failureOf([&] { dives.MoveNext(); }), NoCurrentRecord);
-  dives.MovePrevious();
+  dives.Move(-1);
   EXPECT_EQ(number(dives), "100");
   dives.MoveFirst();
   EXPECT_EQ(number(dives), "7");
@@ -92,10 +92,10 @@ TEST_P(RecordsetTest, TellsEveryMoveThatEndedOnARow) {
   dives.MoveNext();
   EXPECT_TRUE(dives.Eof());
   dives.MoveFirst();
-  EXPECT_EQ(failureOf([&] { dives.MovePrevious(); }), NoCurrentRecord);
+  EXPECT_EQ(failureOf([&] { dives.Move(-1); }), NoCurrentRecord);
   EXPECT_EQ(number(dives), "1");
   dives.MoveLast();
-  dives.MovePrevious();
+  dives.Move(-1);
   dives.Move(0);
   EXPECT_EQ(told, "21211");
   dives.moved = [&] { dives = open(); };
@@ -244,7 +244,7 @@ TEST_P(RecordsetTest, ADeletedRowIsUnusableUntilAMove) {
     EXPECT_EQ(failureOf([&] { dives.Edit(); }), RecordDeleted);
     EXPECT_EQ(failureOf([&] { dives.Delete(); }), RecordDeleted);
     EXPECT_EQ(failureOf([&] { dives.Move(item.forward ? 3 : -3); }), NoCurrentRecord);
-    const int failure = failureOf([&] { item.forward ? dives.MoveNext() : dives.MovePrevious(); });
+    const int failure = failureOf([&] { item.forward ? dives.MoveNext() : dives.Move(-1); });
     if (item.lands != nullptr) {
       EXPECT_EQ(number(dives), item.lands);
     } else {
