@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "exchange/dates.h"
-#include "exchange/dive_record.h"
+#include "exchange/dive_rows.h"
 #include "exchange/plain_text.h"
 #include "platform/errors.h"
 #include "platform/files.h"

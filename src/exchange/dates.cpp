@@ -105,7 +105,7 @@ std::optional<int> readClock(std::string_view text) {
   if (!hour || !takeSign(text, ":.")) return {};
   const auto minute = takeNumber(text);
   if (takeSign(text, ":")) takeNumber(text);
-  const auto half = lowerCase(trimmed(text)).substr(0, 2);
+  const auto half = lowerAscii(trimmed(text).substr(0, 2));
   if (half == "pm" && *hour < kHoursOfDay / 2) *hour += kHoursOfDay / 2;
   if (half == "am" && *hour == kHoursOfDay / 2) *hour = 0;
   if (!minute || *hour >= kHoursOfDay || *minute >= kMinutesOfHour) return {};

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "store/contract.h"
-#include "store/database.h"
 
 namespace nautrel::exchange {
 
@@ -81,14 +80,6 @@ enum Ordinal : int {
   Count
 };
 }  // namespace Stück
-
-/// Reads and stores the row on which a recordset stands; they raise what it raises.
-/// @{
-DiveRecord readDive(const Recordset& dives);
-void appendDive(Recordset& dives, const DiveRecord& dive);
-TextRow readRow(const Recordset& rows);
-void writeRow(Recordset& rows, const TextRow& row);
-/// @}
 
 /// True if no column holds a text.
 bool isBlank(const TextRow& row);

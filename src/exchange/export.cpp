@@ -5,7 +5,7 @@
 
 #include "exchange/csv_writer.h"
 #include "exchange/dates.h"
-#include "exchange/dive_record.h"
+#include "exchange/dive_rows.h"
 #include "exchange/output_file.h"
 #include "exchange/uddf_writer.h"
 #include "store/program_files.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "exchange/dive_rows.h"
 #include "exchange/import_plan.h"
 #include "platform/errors.h"
 #include "store/transaction.h"

@@ -5,10 +5,10 @@
 #include <tuple>
 
 #include "exchange/dates.h"
+#include "exchange/dive_rows.h"
 #include "exchange/duplicates.h"
 #include "exchange/plain_text.h"
 #include "exchange/standard_row.h"
-#include "store/transaction.h"
 
 namespace nautrel::exchange {
 namespace {

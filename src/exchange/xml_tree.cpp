@@ -7,6 +7,7 @@ namespace nautrel::exchange {
 namespace {
 
 constexpr std::size_t kMostElements = 100'000;
+constexpr std::size_t kMostOfAll = 2'000'000;
 constexpr std::string_view kParagraph = "para";
 
 /// Those by which elements are found or understood.
@@ -50,9 +51,9 @@ std::string_view XmlElement::textOf(std::string_view wanted) const {
 
 void XmlCollector::begin(std::string_view name, const XmlAttributes& attributes, int line) {
   if (open_.empty()) count_ = 0;
-  if (name != kParagraph && ++count_ > kMostElements)
-    throw Refused{"Too many elements in <" + open_.front().name + "> of line " +
-                  std::to_string(open_.front().line) + "."};
+  const bool counts = name != kParagraph;
+  if (counts && (++count_ > kMostElements || ++countOfAll_ > kMostOfAll))
+    throw Refused{"Too many elements, up to line " + std::to_string(line) + "."};
   auto& element = open_.emplace_back();
   element.name = name;
   element.line = line;

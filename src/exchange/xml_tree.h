@@ -39,8 +39,8 @@ struct XmlElement {
   }
 };
 
-/// Collects an element with all that is in it, from its begin to its end. Refuses one with more
-/// elements than any needs.
+/// Collects elements with all that is in them, one after the other, each from its begin to its end.
+/// Refuses one with more elements than any needs, and more in all than any logbook has.
 class XmlCollector {
  public:
   bool isOpen() const { return !open_.empty(); }
@@ -57,6 +57,7 @@ class XmlCollector {
   XmlElement root_;
   std::vector<XmlElement> open_;
   std::size_t count_ = 0;
+  std::size_t countOfAll_ = 0;
 };
 
 }  // namespace nautrel::exchange

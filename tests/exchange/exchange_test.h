@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "exchange/dive_record.h"
+#include "exchange/dive_rows.h"
 #include "exchange/export.h"
 #include "exchange/import_plan.h"
 #include "store/delivered.h"

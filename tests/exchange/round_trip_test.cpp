@@ -49,7 +49,7 @@ TEST(RoundTrip, LosesNothingOfAnyLogbook) {
   SCOPED_TRACE("NAUTREL_SEED=" + std::to_string(seed));
   RandomLogbooks random(seed);
   TemporaryFolder folder;
-  const Budget budget(1000);
+  const Budget budget(700);
   for (int round = 0; budget.allows(round) && !testing::Test::HasFailure(); ++round) {
     SCOPED_TRACE("round " + std::to_string(round));
     const auto logbook = random.next();
