@@ -117,11 +117,14 @@ TEST_F(DiveColumns, AllOfTheContractComeBackFromInsertViewAndEdit) {
   view.Leeren();
   std::set<Texts> looks{flagsIn(view)};  // a flag shows where View looks another way
   press(view.Data1, Arrow::First);
+  const auto first = flagsIn(view);
   for (const auto& mark : marks) {
     EXPECT_TRUE(looks.insert(flagsIn(view)).second) << mark;
     expectTextsIn(view);
     press(view.Data1, Arrow::Next);
   }
+  press(view.Data1, Arrow::First);
+  EXPECT_EQ(flagsIn(view), first);
 
   for (const bool again : {false, true}) {
     click(app->MDIForm1().Menü2b);

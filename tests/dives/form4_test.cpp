@@ -32,22 +32,24 @@ TEST_F(EditDives, OpensOnTheFirstDiveAndMakesALineInTheCommentsAlone) {
 }
 
 TEST_F(EditDives, ARowOfAnotherToolShowsThroughTheRulesOfTheBoxes) {
-  auto odd = someDive(1);
+  addDives(1, 1);
+  auto odd = someDive(2);
   odd["Zeit"] = "007";
   odd["Tiefe"] = "deep";
   odd["Land"] = Value::null();
   odd["Tag"] = "3";
   add(odd);
   auto& form = open();
+  press(form.Data1, Navigator::Arrow::Next);
   EXPECT_EQ((Texts{form.Text2.text(), form.Text3.text(), form.Text5.text(), form.Text9.text(),
                    form.Text10.text(), form.Text8.text()}),
-            (Texts{"", "Ort 1", "3", "7", "", ""}));
+            (Texts{"", "Ort 2", "3", "7", "", ""}));
   EXPECT_EQ(rows("Logbuch", {"Land", "Zeit", "Tiefe"}),
-            (std::vector<Texts>{{"NULL", "007", "deep"}}));
+            (std::vector<Texts>{{"Land 1", "40", "60"}, {"NULL", "007", "deep"}}));
   type(form.Text10, "30");
   click(form.Command2);
-  EXPECT_EQ(rows("Logbuch", {"Land", "Buddy", "Zeit", "Tiefe", "Tag"}),
-            (std::vector<Texts>{{"", "", "7", "30", "3"}}));
+  EXPECT_EQ(rows("Logbuch", {"Land", "Buddy", "Zeit", "Tiefe", "Tag"}).back(),
+            (Texts{"", "", "7", "30", "3"}));
 }
 
 TEST_F(EditDives, AMoveThrowsAwayWhatWasTypedWithoutAQuestion) {
