@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include <QAbstractButton>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLayout>
 #include <QSettings>
+#include <QTimer>
 
 #include "gui/gui_test.h"
 #include "look/frame/window_place.h"
@@ -40,6 +45,36 @@ TEST(WindowPlace, ATitleBarOutOfReachOrASizeBeyondAllScreensIsPulledBack) {
                {{0, 0, 3000, 1000}, {left}, {0, 0, 1280, 1000}},
                {{-10, -10, 9000000, 9000000}, {left, right}, {0, 0, 1280, 1024}}};
   for (const auto& item : cases) EXPECT_EQ(pulledBack(item.window, item.screens), item.shown);
+}
+
+TEST(WindowPlace, AFileDialogIsNoLargerThanTheScreen) {
+  QFileDialog dialog;
+  fitInto({304, 152}, dialog);
+  dialog.show();
+  QApplication::processEvents();
+  EXPECT_TRUE(dialog.width() <= 304 && dialog.height() <= 152);
+}
+
+TEST(WindowPlace, TheProgramsFileDialogsAreFittedAndGiveWhatIsTyped) {
+  const TemporaryFolder folder;
+  folder.write("there.txt", "");
+  QtDesktop desktop;
+  const auto answer = [&](const char* name) {
+    QTimer::singleShot(0, [=, path = toQt(folder.file(name))] {
+      auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
+      EXPECT_EQ(dialog.layout()->sizeConstraint(), QLayout::SetNoConstraint);
+      EXPECT_EQ(dialog.windowTitle(), "Some title");
+      dialog.findChild<QLineEdit*>("fileNameEdit")->setText(path);
+      dialog.findChild<QDialogButtonBox*>()->buttons().front()->click();
+    });
+  };
+  const DialogRequest request{.title = "Some title", .filter = "*.*|*.*"};
+  answer("there.txt");
+  EXPECT_EQ(desktop.openFile(request), folder.file("there.txt"));
+  answer("new.txt");
+  EXPECT_EQ(desktop.saveFile(request), folder.file("new.txt"));
+  QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+  EXPECT_FALSE(desktop.saveFile(request));
 }
 
 TEST_F(GuiTest, AMainWindowStoredFarAwayComesBackAndItsSettingsStay) {

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "look/frame/window_place.h"
 
+#include <QDialog>
+#include <QLayout>
+#include <QScreen>
 #include <algorithm>
 
 namespace nautrel {
@@ -43,6 +46,17 @@ QRect pulledBack(const QRect& window, const QList<QRect>& screens) {
       *std::min_element(screens.begin(), screens.end(), [&](const QRect& one, const QRect& other) {
         return distance(window.topLeft(), one) < distance(window.topLeft(), other);
       }));
+}
+
+QSize roomOn(const QScreen& screen) {
+  constexpr QSize kFrame(16, 48);
+  return screen.availableGeometry().size() - kFrame;
+}
+
+void fitInto(const QSize& room, QDialog& dialog) {
+  if (dialog.layout() == nullptr) return;  // the system's own
+  dialog.layout()->setSizeConstraint(QLayout::SetNoConstraint);
+  dialog.resize(dialog.size().boundedTo(room));
 }
 
 }  // namespace nautrel

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "look/frame/window_place.h"
 #include "look/pictures/icons.h"
 #include "look/reports/pages_view.h"
 #include "look/reports/report_pages.h"
@@ -66,10 +67,8 @@ void ReportPreview::setEdge(Edge edge) {
 
 // The window with its frame stays on its screen, at any scale.
 void ReportPreview::fitScreen() {
-  constexpr QSize kFrame(16, 48);
   const QWidget* above = parentWidget() != nullptr ? parentWidget() : this;
-  const QSize room = above->screen()->availableGeometry().size() - kFrame;
-  resize(kOpeningSize.boundedTo(room));
+  resize(kOpeningSize.boundedTo(roomOn(*above->screen())));
 }
 
 void ReportPreview::addKeys() {

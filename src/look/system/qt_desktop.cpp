@@ -18,6 +18,7 @@
 #include "look/frame/form_view.h"
 #include "look/frame/main_frame.h"
 #include "look/frame/qt_looks.h"
+#include "look/frame/window_place.h"
 #include "look/pictures/image_picture.h"
 #include "look/reports/printing.h"
 #include "look/system/message_box.h"
@@ -48,6 +49,12 @@ QString nameFilter(const std::string& filter) {
   return name + QStringLiteral(" (") + patterns.replace(';', ' ') + ')';
 }
 
+std::optional<std::string> chosenIn(QFileDialog& dialog) {
+  fitInto(roomOn(*dialog.screen()), dialog);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  return fromQt(QDir::toNativeSeparators(dialog.selectedFiles().value(0)));
+}
+
 }  // namespace
 
 QtDesktop::QtDesktop()
@@ -74,18 +81,17 @@ std::string QtDesktop::askText(const std::string& prompt, const std::string& tit
 }
 
 std::optional<std::string> QtDesktop::askFileToOpen(const DialogRequest& request) {
-  const auto file = QFileDialog::getOpenFileName(parentWindow(), toQt(request.title), {},
-                                                 nameFilter(request.filter));
-  if (file.isEmpty()) return {};
-  return fromQt(QDir::toNativeSeparators(file));
+  QFileDialog dialog(parentWindow(), toQt(request.title), {}, nameFilter(request.filter));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return chosenIn(dialog);
 }
 
 std::optional<std::string> QtDesktop::askFileToSave(const DialogRequest& request) {
-  const auto file = QFileDialog::getSaveFileName(parentWindow(), toQt(request.title),
-                                                 toQt(request.fileName), nameFilter(request.filter),
-                                                 nullptr, QFileDialog::DontConfirmOverwrite);
-  if (file.isEmpty()) return {};
-  return fromQt(QDir::toNativeSeparators(file));
+  QFileDialog dialog(parentWindow(), toQt(request.title), toQt(request.fileName),
+                     nameFilter(request.filter));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  return chosenIn(dialog);
 }
 
 std::optional<long> QtDesktop::askColor(long color) {
