@@ -22,12 +22,14 @@ QByteArray formatOf(const QByteArray& head) {
   return {};
 }
 
-/// Makes the picture blank.
-void clear(QImage& image) {
+// What a bitmap cut short does not fill stays blank; the other kinds see to that themselves.
+QImage blank(QSize size, QImage::Format format) {
+  QImage image(size, format);
   if (image.pixelFormat().colorModel() == QPixelFormat::Indexed)
     image.fill(0U);
   else
     image.fill(Qt::white);
+  return image;
 }
 
 // Some kinds tell the size of their first part alone.
@@ -48,9 +50,8 @@ QImage decode(QFile& file, const QByteArray& format, QSize largest) {
   const QSize room = onItsSide ? largest.transposed() : largest;
   if (size.width() > room.width() || size.height() > room.height())
     reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1}));
-  // What a file cut short does not fill stays blank.
-  QImage image(size, reader.imageFormat());
-  clear(image);
+  QImage image;
+  if (format == "bmp") image = blank(size, reader.imageFormat());
   if (!reader.read(&image)) return {};
   return fitted(image, largest);
 }
