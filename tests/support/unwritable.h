@@ -2,12 +2,28 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <string>
 
+#ifdef _WIN32
+#include <filesystem>
+#else
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
 namespace nautrel {
+
+#ifdef _WIN32
+
+inline std::string unwritable(const std::string& path) {
+  std::filesystem::create_directory(std::filesystem::u8path(path));
+  return path;
+}
+
+class PlainUser {};
+
+#else
 
 /// Makes a file that looks as if it could be written and yet cannot be opened, and gives its path
 /// back.
@@ -33,5 +49,7 @@ class PlainUser {
   }
   const bool administrator_ = geteuid() == 0;
 };
+
+#endif
 
 }  // namespace nautrel
