@@ -57,7 +57,7 @@ class UddfWriter {
   void noteLosses(const DiveRecord& dive, const StandardDive& told);
 
   const Logbook& logbook_;
-  const Locale& locale_;
+  Locale locale_;
   XmlWriter xml_;
   Definitions images_{"img"};
   Definitions suits_{"suit"};

@@ -21,7 +21,10 @@ inline std::string unwritable(const std::string& path) {
   return path;
 }
 
-class PlainUser {};
+class PlainUser {
+ public:
+  PlainUser() {}
+};
 
 #else
 
