@@ -55,8 +55,9 @@ class Running {
     static char name[] = "bench";
     static char* names[] = {name, nullptr};
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication application(count, names);
-    return application;
+    // It stays: at the end of the process the toolkit has gone before it.
+    static auto* const application = new QApplication(count, names);
+    return *application;
   }
 
   QApplication& screen_ = screen();
