@@ -8,8 +8,8 @@
 namespace nautrel::exchange {
 
 struct Restored {
-  /// Where the logbook that was there stands now, or the log of one that was not; empty if there was
-  /// nothing.
+  /// Where the logbook that was there stands now, or the log of one that was not; empty if there
+  /// was nothing.
   std::string kept;
   /// Whether a log is kept with it: the logbook was damaged, and its log could not be taken in.
   bool logKept = false;
