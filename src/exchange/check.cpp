@@ -9,6 +9,7 @@
 #include "exchange/dates.h"
 #include "exchange/dive_rows.h"
 #include "exchange/plain_text.h"
+#include "exchange/standard_dive.h"
 #include "platform/errors.h"
 #include "platform/files.h"
 #include "store/contract.h"
@@ -73,8 +74,9 @@ class DiveCheck {
       const bool required = ordinal == Feld::Zeit || ordinal == Feld::Tiefe;
       if (text.empty() && required)
         find(About::Value, std::string(column.label) + " is missing.");
-      else if (!text.empty() && !tryNumber(text, locale_))
-        find(About::Value, std::string(column.label) + " " + inQuotes(text) + " is no number.");
+      else if (const auto fault = faultOfNumber(text, locale_); !text.empty() && !fault.empty())
+        find(About::Value,
+             std::string(column.label) + " " + inQuotes(text) + " " + std::string(fault) + ".");
     }
   }
 

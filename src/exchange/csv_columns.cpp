@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "exchange/dates.h"
 #include "exchange/plain_text.h"
 #include "platform/text.h"
 #include "store/contract.h"
@@ -14,12 +15,8 @@ namespace {
 struct Head {
   std::string name;  // lower case, nothing but letters and what is no sign
   std::string unit;
-  bool ofFirstTank = true;
+  int tank = 1;
 };
-
-bool isDigits(std::string_view text) {
-  return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
-}
 
 /// "cylinder size (1) [l]" is "cylindersize" in "l", of tank 1.
 Head readHead(std::string_view text) {
@@ -32,8 +29,8 @@ Head readHead(std::string_view text) {
       inside.clear();
     } else if (letter == ')' || letter == ']') {
       open = false;
-      if (isDigits(inside))
-        head.ofFirstTank = inside == "1";
+      if (const auto number = readWhole(inside))
+        head.tank = *number;
       else
         head.unit = inside;
     } else if (open) {
@@ -110,6 +107,16 @@ constexpr Synonym kSynonyms[] = {
     {Feld::Liter, "cylindervolume"},
     {Feld::Liter, "tankvolume"},
     {Feld::Liter, "volume"},
+    {CsvRole::Oxygen, "o2"},
+    {CsvRole::Oxygen, "oxygen"},
+    {CsvRole::Helium, "he"},
+    {CsvRole::Helium, "helium"},
+    {CsvRole::AirTemperature, "airtemp"},
+    {CsvRole::AirTemperature, "airtemperature"},
+    {CsvRole::AirTemperature, "lufttemperatur"},
+    {CsvRole::WaterTemperature, "watertemp"},
+    {CsvRole::WaterTemperature, "watertemperature"},
+    {CsvRole::WaterTemperature, "wassertemperatur"},
     {Feld::Blei, "weight"},
     {Feld::Blei, "lead"},
     {Feld::Blei, "blei"},
@@ -130,6 +137,8 @@ constexpr std::pair<std::string_view, CsvUnit> kUnits[] = {
     {"min", CsvUnit::Minute},     {"mins", CsvUnit::Minute},     {"minutes", CsvUnit::Minute},
     {"s", CsvUnit::Second},       {"sec", CsvUnit::Second},      {"seconds", CsvUnit::Second},
     {"h", CsvUnit::Hour},         {"hr", CsvUnit::Hour},         {"hours", CsvUnit::Hour},
+    {"%", CsvUnit::Percent},      {"c", CsvUnit::Celsius},       {"°c", CsvUnit::Celsius},
+    {"f", CsvUnit::Fahrenheit},   {"°f", CsvUnit::Fahrenheit},   {"celsius", CsvUnit::Celsius},
 };
 
 }  // namespace
@@ -141,28 +150,32 @@ CsvUnit csvUnit(std::string_view name) {
   return CsvUnit::None;
 }
 
+bool isOfTank(int role) {
+  constexpr int kRoles[] = {Feld::Liter, Feld::Bars, Feld::Bare, CsvRole::Oxygen, CsvRole::Helium};
+  return std::find(std::begin(kRoles), std::end(kRoles), role) != std::end(kRoles);
+}
+
 std::vector<CsvColumn> csvColumns(const CsvRow& header) {
   std::vector<Head> heads;
   std::vector<CsvColumn> columns;
   for (const auto& cell : header.cells) {
     heads.push_back(readHead(cell.text));
-    columns.push_back(
-        {.head = std::string(trimmed(cell.text)), .unit = csvUnit(heads.back().unit)});
+    columns.push_back({.head = std::string(trimmed(cell.text)),
+                       .unit = csvUnit(heads.back().unit),
+                       .tank = heads.back().tank});
   }
-  const auto has = [&](int role) {
-    return std::any_of(columns.begin(), columns.end(),
-                       [&](const CsvColumn& column) { return column.role == role; });
+  const auto has = [&](int role, int tank) {
+    return std::any_of(columns.begin(), columns.end(), [&](const CsvColumn& column) {
+      return column.role == role && column.tank == tank;
+    });
   };
-  for (const auto& [role, name] : kSynonyms) {
-    if (has(role)) continue;
-    const auto fits = [&, name = name](const Head& head) {
-      return head.name == name && head.ofFirstTank;
-    };
-    const auto found = std::find_if(heads.begin(), heads.end(), fits);
-    if (found == heads.end()) continue;
-    auto& column = columns[static_cast<std::size_t>(found - heads.begin())];
-    if (column.role == CsvRole::Unknown) column.role = role;
-  }
+  for (const auto& [role, name] : kSynonyms)
+    for (std::size_t place = 0; place < columns.size(); ++place) {
+      auto& column = columns[place];
+      if (heads[place].name == name && column.role == CsvRole::Unknown &&
+          (column.tank == 1 || isOfTank(role)) && !has(role, column.tank))
+        column.role = role;
+    }
   return columns;
 }
 

@@ -22,6 +22,9 @@ enum class CsvUnit {
   Minute,
   Second,
   Hour,
+  Percent,
+  Celsius,
+  Fahrenheit,
 };
 
 /// By a name such as "m", "ft", "lbs", "min"; None for any other.
@@ -32,13 +35,21 @@ namespace CsvRole {
 inline constexpr int Unknown = -1;
 inline constexpr int Date = -2;
 inline constexpr int Clock = -3;
+inline constexpr int Oxygen = -4;
+inline constexpr int Helium = -5;
+inline constexpr int AirTemperature = -6;
+inline constexpr int WaterTemperature = -7;
 }  // namespace CsvRole
 
 struct CsvColumn {
   std::string head = {};        // as the file has it
   int role = CsvRole::Unknown;  // or the ordinal of a column of the logbook
   CsvUnit unit = CsvUnit::None;
+  int tank = 1;  // that it is about, of several
 };
+
+/// Whether a column of that role may stand for each tank.
+bool isOfTank(int role);
 
 /// What the columns of a header mean, found by the names that programs give them.
 std::vector<CsvColumn> csvColumns(const CsvRow& header);

@@ -6,6 +6,7 @@
 #include "exchange/csv_table.h"
 #include "exchange/csv_writer.h"
 #include "exchange/foreign_csv.h"
+#include "exchange/plain_text.h"
 #include "exchange/private_block.h"
 
 namespace nautrel::exchange {
@@ -50,10 +51,17 @@ class OwnCsv final : public ImportSource {
     for (int column = 0; column < kDiveColumns; ++column) {
       const auto& cell = row.cells[static_cast<std::size_t>(column) + 1];
       if (diveColumn(column).isFlag)
-        record.flags[column] = cell.text == "1";
+        record.flags[column] = flagOf(row, column, cell.text);
       else if (cell.quoted || !cell.text.empty())
         record.texts[column] = unguarded(cell.text);
     }
+  }
+
+  static bool flagOf(const CsvRow& row, int column, std::string_view text) {
+    if (text != "0" && text != "1")
+      throw Refused{"'" + std::string(diveColumn(column).label) + "' in line " +
+                    std::to_string(row.line) + " is '" + shown(text) + "', neither 0 nor 1."};
+    return text == "1";
   }
 
   std::unique_ptr<CsvTable> table_;

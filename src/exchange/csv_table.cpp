@@ -121,9 +121,13 @@ void CsvTable::decode(const std::string& fileName) {
   constexpr std::string_view kMark = "\xEF\xBB\xBF";
   if (text_.starts_with("\xFF\xFE") || text_.starts_with("\xFE\xFF"))
     throw Refused{fileName + " is in UTF-16. Please save it as UTF-8."};
-  if (text_.starts_with(kMark))
-    text_.erase(0, kMark.size());
-  else if (!isUtf8(text_))
+  const bool marked = text_.starts_with(kMark);
+  if (marked) text_.erase(0, kMark.size());
+  const auto sound = utf8Bytes(text_);
+  if (sound == text_.size()) return;
+  if (marked)
+    brokenLine_ = 1 + static_cast<int>(std::count(text_.begin(), text_.begin() + sound, '\n'));
+  else
     text_ = fromCodePage(text_);
 }
 
@@ -131,8 +135,12 @@ void CsvTable::decode(const std::string& fileName) {
 std::size_t CsvTable::takeSeparatorLine() {
   constexpr std::string_view kWord = "sep=";
   const auto end = text_.find_first_of("\r\n");
-  if (lowerAscii(text_.substr(0, kWord.size())) != kWord || end != kWord.size() + 1) return 0;
-  separator_ = text_[kWord.size()];
+  auto line = lowerAscii(text_.substr(0, std::min<std::size_t>(end, kWord.size() + 3)));
+  if (line.size() == kWord.size() + 3 && line.front() == '"' && line.back() == '"')
+    line = line.substr(1, kWord.size() + 1);
+  if (end == std::string::npos || !line.starts_with(kWord) || line.size() != kWord.size() + 1)
+    return 0;
+  separator_ = line.back();
   return end + (text_.compare(end, 2, "\r\n") == 0 ? 2 : 1);
 }
 

@@ -22,8 +22,9 @@ struct CsvRow {
 class CsvTable {
  public:
   /// Takes the file as it was read: finds its encoding (a mark, else UTF-8 where it is that, else
-  /// the western code page) and its separator. Raises Refused, with the line: a quotation mark that
-  /// is not closed, rows of another width than the header, more than 9999 dives or 200 columns.
+  /// the western code page; bytes behind a mark stay as they are) and its separator. Raises
+  /// Refused, with the line: a quotation mark that is not closed, rows of another width than the
+  /// header, more than 9999 dives or 200 columns.
   CsvTable(std::string file, const std::string& fileName);
   CsvTable(const CsvTable&) = delete;
   CsvTable& operator=(const CsvTable&) = delete;
@@ -33,6 +34,8 @@ class CsvTable {
   std::vector<CsvRow>::const_iterator begin() const { return rows_.begin() + 1; }
   std::vector<CsvRow>::const_iterator end() const { return rows_.end(); }
   std::size_t rowCount() const { return rows_.size() - 1; }
+  /// The first line of a file marked as UTF-8 that is none; 0 if there is none.
+  int brokenLine() const { return brokenLine_; }
 
  private:
   void decode(const std::string& fileName);
@@ -42,6 +45,7 @@ class CsvTable {
 
   std::string text_;
   char separator_ = 0;
+  int brokenLine_ = 0;
   std::vector<CsvRow> rows_;
 };
 

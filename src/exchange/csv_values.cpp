@@ -14,16 +14,36 @@ namespace {
 constexpr std::string_view kDigits = "0123456789";
 constexpr std::string_view kSigns = ".,";
 
-/// Without the signs that group digits, with a point for the decimal one.
-std::string withPoint(std::string_view number) {
+/// "3,000": one sign that may group the digits as well as be the decimal one.
+bool isOpen(std::string_view number) {
+  constexpr std::size_t kGroup = 3;
+  if (number.starts_with('-') || number.starts_with('+')) number.remove_prefix(1);
+  const auto sign = number.find_first_of(kSigns);
+  return sign != std::string_view::npos && number.size() == sign + 1 + kGroup && sign > 0 &&
+         sign <= kGroup && number[0] != '0' &&
+         number.find_first_of(kSigns, sign + 1) == std::string_view::npos;
+}
+
+/// The decimal sign of a number that has one or tells which it is not; 0 for any other.
+char signIn(std::string_view number) {
   const auto last = number.find_last_of(kSigns);
-  const bool repeated =
-      last != std::string_view::npos && std::count(number.begin(), number.end(), number[last]) > 1;
+  if (last == std::string_view::npos || isOpen(number)) return 0;
+  const char sign = number[last];
+  if (std::count(number.begin(), number.end(), sign) == 1) return sign;
+  return sign == '.' ? ',' : '.';
+}
+
+/// Without the signs that group digits, with a point for the decimal one.
+std::string withPoint(std::string_view number, char decimal = 0) {
+  const auto last = number.find_last_of(kSigns);
+  const bool groups = last != std::string_view::npos &&
+                      (std::count(number.begin(), number.end(), number[last]) > 1 ||
+                       (decimal != 0 && isOpen(number) && number[last] != decimal));
   std::string plain;
   for (std::size_t at = 0; at < number.size(); ++at) {
     if (kSigns.find(number[at]) == std::string_view::npos)
       plain += number[at];
-    else if (at == last && !repeated)
+    else if (at == last && !groups)
       plain += '.';
   }
   return plain;
@@ -110,10 +130,28 @@ DateParts takeDateParts(std::string_view& text) {
 
 }  // namespace
 
-std::optional<Measure> readMeasure(std::string_view cell) {
+void DecimalSign::look(std::string_view cell) {
+  auto text = trimmed(cell);
+  const char sign = signIn(takeNumberText(text));
+  point_ = point_ || sign == '.';
+  comma_ = comma_ || sign == ',';
+}
+
+char DecimalSign::known() const {
+  if (point_ == comma_) return 0;
+  return point_ ? '.' : ',';
+}
+
+char DecimalSign::doubtful(std::string_view cell) const {
+  auto text = trimmed(cell);
+  const auto number = takeNumberText(text);
+  return known() == 0 && isOpen(number) ? number[number.find_first_of(kSigns)] : '\0';
+}
+
+std::optional<Measure> readMeasure(std::string_view cell, const DecimalSign& sign) {
   auto text = trimmed(cell);
   const auto digits = takeNumberText(text);
-  const auto number = readFileNumber(withPoint(digits));
+  const auto number = readFileNumber(withPoint(digits, sign.known()));
   if (digits.empty() || !number) return {};
   const bool hasUnit = !trimmed(text).empty();
   const auto unit = takeUnit(text);
@@ -158,7 +196,7 @@ std::optional<RawDate> readDate(std::string_view cell) {
   for (const auto digits : parts.numbers) numbers.push_back(readWhole(digits).value_or(-1));
   if (std::count(numbers.begin(), numbers.end(), -1) > 0) return {};
   text = text.starts_with('T') || text.starts_with(',') ? text.substr(1) : text;
-  RawDate date{.minuteOfDay = readClock(text)};
+  RawDate date{.minuteOfDay = readTimeOfDay(text)};
   constexpr std::size_t kYearDigits = 4;
   if (parts.month != 0 && numbers.size() == 2) {
     const bool yearFirst = parts.numbers[0].size() == kYearDigits;

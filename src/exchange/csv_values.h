@@ -17,9 +17,25 @@ struct Measure {
   CsvUnit unit = CsvUnit::None;
 };
 
-/// Reads a number with a point or a comma; of two signs the last one is the decimal one. Nothing
-/// for a text that does not begin with a number.
-std::optional<Measure> readMeasure(std::string_view cell);
+/// Which decimal sign the numbers of a file have, as far as its cells tell.
+class DecimalSign {
+ public:
+  void look(std::string_view cell);
+  /// 0 where no cell tells it, or one tells otherwise than another.
+  char known() const;
+  /// The sign of a cell such as "3,000", where nothing tells whether it groups digits; 0 for any
+  /// other.
+  char doubtful(std::string_view cell) const;
+
+ private:
+  bool point_ = false;
+  bool comma_ = false;
+};
+
+/// Reads a number with a point or a comma; of two signs the last one is the decimal one, and so is
+/// a single one unless the file's is another and this one may group digits. Nothing for a text that
+/// does not begin with a number.
+std::optional<Measure> readMeasure(std::string_view cell, const DecimalSign& sign = {});
 
 /// A dive time in its parts, as the cell has them: "45", "51 min", "0:45", "1:02:30".
 struct RawDuration {

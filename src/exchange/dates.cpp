@@ -37,6 +37,13 @@ bool takeSign(std::string_view& text, std::string_view signs) {
   return true;
 }
 
+/// The digits of a time count whatever zone they are in.
+bool isZone(std::string_view text) {
+  if (text == "Z" || text == "z") return true;
+  return takeSign(text, "+-") && text.size() > 1 &&
+         text.find_first_not_of("0123456789:") == std::string_view::npos;
+}
+
 std::string formatted(const char* form, int first, int second, int third) {
   char text[40];
   const int length = std::snprintf(text, sizeof text, form, first, second, third);
@@ -112,6 +119,16 @@ std::optional<int> readClock(std::string_view text) {
   return *hour * kMinutesOfHour + *minute;
 }
 
+std::optional<int> readTimeOfDay(std::string_view text) {
+  if (const auto clock = readClock(text)) return clock;
+  text = trimmed(text);
+  const auto hour = takeNumber(text);
+  takeSign(text, ":");
+  const bool alone = text.empty() || isZone(text);
+  return hour && alone && *hour < kHoursOfDay ? std::optional(*hour * kMinutesOfHour)
+                                              : std::nullopt;
+}
+
 std::optional<Moment> readMoment(std::string_view text) {
   text = trimmed(text);
   const auto year = takeNumber(text);
@@ -119,10 +136,10 @@ std::optional<Moment> readMoment(std::string_view text) {
   const auto month = takeNumber(text);
   if (!month || !takeSign(text, "-/.")) return {};
   const auto day = takeNumber(text);
-  if (!day || (!text.empty() && !takeSign(text, "Tt "))) return {};
+  if (!day || !(text.empty() || isZone(text) || takeSign(text, "Tt "))) return {};
   const auto date = dateOf(*year, *month, *day);
   if (!date.ok()) return {};
-  return Moment{date, readClock(text)};
+  return Moment{date, readTimeOfDay(text)};
 }
 
 void setDate(DiveRecord& dive, Date date) {

@@ -34,13 +34,16 @@ std::string isoText(Date date);
 /// "2001-03-05T14:30:00".
 std::string momentText(const std::string& isoDate, int minuteOfDay);
 
-/// Reads "2001-03-05T14:30:00" in the forms in which it occurs: without time, seconds or zone, with
+/// Reads "2001-03-05T14:30:00" in the forms in which it occurs: without time, minutes, seconds or
+/// zone, with
 /// fractions, a blank for the T. The digits count, no zone moves them. Nothing for what is no date
 /// and for the year 1, which some programs write for an unknown one.
 std::optional<Moment> readMoment(std::string_view text);
 
 /// A clock time such as "14:30", "2:30 PM", as minutes of the day.
 std::optional<int> readClock(std::string_view text);
+/// Likewise behind a date, where an hour may stand alone.
+std::optional<int> readTimeOfDay(std::string_view text);
 
 /// "05", "03" and "2001" for the three columns.
 void setDate(DiveRecord& dive, Date date);

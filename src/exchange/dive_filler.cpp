@@ -59,14 +59,12 @@ void DiveFiller::leaveOut(std::string why) {
 
 /// A rounding by more than `unnoticed` is told.
 void DiveFiller::number(int column, std::string_view told, double exact, double unnoticed) {
+  if (exact < 0) return notTaken(column, told, "is negative");
   const auto digits = fitted(exact, wholeFrom(column));
+  if (digits == "0") return notTaken(column, told, "is 0 when it is rounded");
   auto text = withSign(digits, locale_);
-  const auto label = std::string(diveColumn(column).label);
-  if (characters(text) > static_cast<std::size_t>(diveColumn(column).boxLength)) {
-    line(label + ": " + std::string(told));
-    change(column, told, "", "too large for its box; it stands in the comments");
-    return;
-  }
+  if (characters(text) > static_cast<std::size_t>(diveColumn(column).boxLength))
+    return notTaken(column, told, "too large for its box; it stands in the comments");
   if (std::abs(*readFileNumber(digits) - exact) > unnoticed)
     change(column, told, text, "rounded to fit its box");
   dive_.record.texts[column] = std::move(text);
@@ -94,17 +92,17 @@ void DiveFiller::duration(std::string_view told, double seconds) {
 
 void DiveFiller::tankSize(std::string_view told, double cubicMetres) {
   constexpr double kNoticed = 0.5001;
-  if (cubicMetres > 0) number(Feld::Liter, told, cubicMetres / kTankOfCubicFoot, kNoticed);
+  if (cubicMetres != 0) number(Feld::Liter, told, cubicMetres / kTankOfCubicFoot, kNoticed);
 }
 
 void DiveFiller::pressure(int column, std::string_view told, double pascals) {
   constexpr double kNoticed = 0.5001;
-  if (pascals > 0) number(column, told, pascals / kPascalsOfPsi, kNoticed);
+  if (pascals != 0) number(column, told, pascals / kPascalsOfPsi, kNoticed);
 }
 
 void DiveFiller::weight(std::string_view told, double kilograms) {
   constexpr double kNoticed = 0.5001;
-  if (kilograms > 0) number(Feld::Blei, told, kilograms / kKilogramsOfPound, kNoticed);
+  if (kilograms != 0) number(Feld::Blei, told, kilograms / kKilogramsOfPound, kNoticed);
 }
 
 void DiveFiller::altitude(std::string_view told, double metres) {
@@ -147,9 +145,9 @@ void DiveFiller::visibility(double metres) {
   flag(metres >= kGood ? Feld::Sichtg : metres < kPoor ? Feld::Sichts : Feld::Sichtm);
 }
 
-void DiveFiller::noNumber(int column, std::string_view told) {
+void DiveFiller::notTaken(int column, std::string_view told, std::string why) {
   unreadable_[column] = told;
-  change(column, told, "", "is no number");
+  change(column, told, "", std::move(why));
   line(std::string(diveColumn(column).label) + ": " + std::string(told));
 }
 

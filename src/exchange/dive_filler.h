@@ -19,7 +19,8 @@ class DiveFiller {
   DiveFiller(SourceDive& dive, const Locale& locale);
 
   /// The file's own text of a value, for the report, goes before it. Values without one are given
-  /// as 0 and leave their column empty.
+  /// as 0 and leave their column empty; those that are negative or too small do so too, and are
+  /// told.
   /// @{
   void depth(std::string_view told, double metres);
   void duration(std::string_view told, double seconds);
@@ -35,7 +36,11 @@ class DiveFiller {
   void visibility(double metres);
 
   /// A text that is no number, where one was wanted.
-  void noNumber(int column, std::string_view told);
+  void noNumber(int column, std::string_view told) { notTaken(column, told, "is no number"); }
+  /// A doubt about how the file's text was read.
+  void doubt(int column, std::string_view told, std::string why) {
+    change(column, told, dive_.record.text(column), std::move(why));
+  }
   /// A line for the comments, below what the file has as such.
   void line(std::string line) { lines_.push_back(std::move(line)); }
 
@@ -44,6 +49,7 @@ class DiveFiller {
 
  private:
   void number(int column, std::string_view told, double exact, double shownExactly);
+  void notTaken(int column, std::string_view told, std::string why);
   void change(int column, std::string_view from, std::string_view to, std::string why);
   void leaveOut(std::string why);
   void require(int column, const std::string& name);

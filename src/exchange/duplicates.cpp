@@ -10,7 +10,7 @@
 namespace nautrel::exchange {
 namespace {
 
-constexpr double kAlike = 0.5;  // feet
+constexpr double kAlike = 0.500001;  // feet; differences of decimals come out a little off
 
 /// "5" and "05" are one day; a text that is no number stands for itself.
 std::string wholeOrText(std::string_view text) {

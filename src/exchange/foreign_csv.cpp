@@ -2,10 +2,11 @@
 #include "exchange/foreign_csv.h"
 
 #include <algorithm>
+#include <set>
 
 #include "exchange/csv_columns.h"
 #include "exchange/csv_values.h"
-#include "exchange/dive_filler.h"
+#include "exchange/dive_lines.h"
 #include "exchange/format.h"
 #include "exchange/plain_text.h"
 #include "exchange/units.h"
@@ -16,12 +17,15 @@ namespace {
 /// A number of minutes before a colon that is more than any dive has hours.
 constexpr double kMoreThanHours = 5;
 constexpr int kLastMonth = 12;
+constexpr std::size_t kLongestText = 1U << 20;
 
 class ForeignCsv final : public ImportSource {
  public:
   ForeignCsv(std::unique_ptr<CsvTable> table, const std::string& fileName)
       : table_(std::move(table)), columns_(csvColumns(table_->header())) {
     require(fileName);
+    findTanks();
+    findDecimalSign();
     askForDates();
     askForDurations();
     askForUnits();
@@ -41,6 +45,8 @@ class ForeignCsv final : public ImportSource {
     for (const auto& row : *table_)
       if (const auto cell = trimmed(row.cells[place].text); !cell.empty()) visit(cell);
   }
+  void findTanks();
+  void findDecimalSign();
   void askForDates();
   void askForDurations();
   void askForUnits();
@@ -52,12 +58,20 @@ class ForeignCsv final : public ImportSource {
   SourceDive convert(const CsvRow& row, const Answers& answers, const Locale& locale) const;
   void take(DiveFiller& filler, SourceDive& dive, const CsvColumn& column, const CsvCell& cell,
             const Answers& answers) const;
+  std::optional<double> valueOf(const CsvColumn& column, std::string_view text,
+                                const Answers& answers) const;
   void takeMeasure(DiveFiller& filler, const CsvColumn& column, std::string_view text,
                    const Answers& answers) const;
+  int mainTank(const CsvRow& row) const;
+  ToldTank toldTank(DiveFiller& filler, const CsvRow& row, int tank, bool isMain,
+                    const Answers& answers) const;
+  void tellTemperatureOf(DiveFiller& filler, const CsvColumn& column, std::string_view text) const;
 
   std::unique_ptr<CsvTable> table_;
   std::vector<CsvColumn> columns_;
   std::vector<Question> questions_;
+  DecimalSign decimal_;
+  std::set<int> tanks_;
   DateOrder dateOrder_ = DateOrder::DayFirst;                 // where the column tells it
   DurationForm durationForm_ = DurationForm::MinutesSeconds;  // likewise
 };
@@ -99,6 +113,19 @@ double factorOf(int role, CsvUnit unit) {
   }
 }
 
+void fill(DiveFiller& filler, int role, std::string_view text, double value) {
+  switch (role) {
+    case Feld::Tiefe:
+      return filler.depth(text, value);
+    case Feld::Liter:
+      return filler.tankSize(text, value);
+    case Feld::Blei:
+      return filler.weight(text, value);
+    default:
+      return filler.pressure(role, text, value);
+  }
+}
+
 std::size_t ForeignCsv::placeOf(int role) const {
   const auto found = std::find_if(columns_.begin(), columns_.end(),
                                   [&](const CsvColumn& column) { return column.role == role; });
@@ -115,6 +142,25 @@ void ForeignCsv::require(const std::string& fileName) const {
       throw Refused{fileName + " cannot be read: line " + std::to_string(table_->header().line) +
                     " names no column for the " + name + "."};
   if (table_->rowCount() == 0) throw Refused{fileName + " holds no dives."};
+  if (table_->brokenLine() > 0)
+    throw Refused{fileName + " cannot be read: it is marked as UTF-8 and is none in line " +
+                  std::to_string(table_->brokenLine()) + "."};
+  for (const auto& row : *table_)
+    for (const auto& cell : row.cells)
+      if (cell.text.size() > kLongestText)
+        throw Refused{fileName + " cannot be read: a text in line " + std::to_string(row.line) +
+                      " is longer than 1 MB."};
+}
+
+void ForeignCsv::findTanks() {
+  for (const auto& column : columns_)
+    if (isOfTank(column.role)) tanks_.insert(column.tank);
+}
+
+void ForeignCsv::findDecimalSign() {
+  for (std::size_t place = 0; place < columns_.size(); ++place)
+    if (isMeasured(columns_[place].role) || columns_[place].role == Feld::Zeit)
+      forCells(place, [&](std::string_view cell) { decimal_.look(cell); });
 }
 
 void ForeignCsv::askForDates() {
@@ -154,7 +200,7 @@ void ForeignCsv::askForUnits() {
     if (!isMeasured(column.role) || factorOf(column.role, column.unit) != 0) continue;
     std::string_view example;
     forCells(place, [&](std::string_view cell) {
-      const auto measure = readMeasure(cell);
+      const auto measure = readMeasure(cell, decimal_);
       if (measure && measure->unit == CsvUnit::None && measure->number != 0 && example.empty())
         example = cell;
     });
@@ -202,10 +248,69 @@ SourceDive ForeignCsv::convert(const CsvRow& row, const Answers& answers,
                                const Locale& locale) const {
   SourceDive dive{.line = row.line};
   DiveFiller filler(dive, locale);
+  const int main = mainTank(row);
   for (std::size_t place = 0; place < columns_.size(); ++place)
-    take(filler, dive, columns_[place], row.cells[place], answers);
+    if (const auto& column = columns_[place]; !isOfTank(column.role) || column.tank == main)
+      take(filler, dive, column, row.cells[place], answers);
+  for (const int tank : tanks_)
+    tellTank(filler, tank, toldTank(filler, row, tank, tank == main, answers), tank == main);
+  for (std::size_t place = 0; place < columns_.size(); ++place)
+    tellTemperatureOf(filler, columns_[place], trimmed(row.cells[place].text));
   filler.finish();
   return dive;
+}
+
+/// The first one with a start pressure.
+int ForeignCsv::mainTank(const CsvRow& row) const {
+  for (const int tank : tanks_)
+    for (std::size_t place = 0; place < columns_.size(); ++place) {
+      if (columns_[place].role != Feld::Bars || columns_[place].tank != tank) continue;
+      const auto pressure = readMeasure(row.cells[place].text, decimal_);
+      if (pressure && pressure->number > 0) return tank;
+    }
+  return 1;
+}
+
+/// What is no value stands in the comments as it is.
+ToldTank ForeignCsv::toldTank(DiveFiller& filler, const CsvRow& row, int tank, bool isMain,
+                              const Answers& answers) const {
+  ToldTank told;
+  const auto percent = [](double value) { return value <= 1 ? value * 100 : value; };
+  for (std::size_t place = 0; place < columns_.size(); ++place) {
+    const auto& column = columns_[place];
+    const auto text = trimmed(row.cells[place].text);
+    const bool toldElsewhere = isMain && isMeasured(column.role);
+    if (!isOfTank(column.role) || column.tank != tank || toldElsewhere || text.empty()) continue;
+    const auto value = valueOf(column, text, answers);
+    if (!value || *value < 0)
+      filler.line(column.head + ": " + std::string(text));
+    else if (column.role == CsvRole::Oxygen)
+      told.oxygen = percent(*value);
+    else if (column.role == CsvRole::Helium)
+      told.helium = percent(*value);
+    else
+      (column.role == Feld::Liter  ? told.cubicMetres
+       : column.role == Feld::Bars ? told.begin
+                                   : told.end) = *value;
+  }
+  return told;
+}
+
+/// A number without a unit stands in the comments as it is.
+void ForeignCsv::tellTemperatureOf(DiveFiller& filler, const CsvColumn& column,
+                                   std::string_view text) const {
+  const bool air = column.role == CsvRole::AirTemperature;
+  if (text.empty() || (!air && column.role != CsvRole::WaterTemperature)) return;
+  const std::string label = air ? "Air temperature" : "Water temperature";
+  const auto measure = readMeasure(text, decimal_);
+  auto unit = measure ? measure->unit : CsvUnit::None;
+  if (measure && unit == CsvUnit::None) unit = column.unit;
+  if (unit == CsvUnit::Celsius)
+    tellTemperature(filler, label, measure->number);
+  else if (unit == CsvUnit::Fahrenheit)
+    tellTemperature(filler, label, (measure->number - 32) / 1.8);
+  else
+    filler.line(label + ": " + std::string(text));
 }
 
 void ForeignCsv::take(DiveFiller& filler, SourceDive& dive, const CsvColumn& column,
@@ -227,30 +332,34 @@ void ForeignCsv::take(DiveFiller& filler, SourceDive& dive, const CsvColumn& col
       filler.noNumber(column.role, text);
   } else if (isMeasured(column.role)) {
     takeMeasure(filler, column, text, answers);
-  } else {
+  } else if (column.role >= 0) {
     filler.text(column.role, text);
   }
 }
 
-void ForeignCsv::takeMeasure(DiveFiller& filler, const CsvColumn& column, std::string_view text,
-                             const Answers& answers) const {
-  const auto measure = readMeasure(text);
-  if (!measure) return filler.noNumber(column.role, text);
+std::optional<double> ForeignCsv::valueOf(const CsvColumn& column, std::string_view text,
+                                          const Answers& answers) const {
+  const auto measure = readMeasure(text, decimal_);
+  if (!measure) return {};
+  if (!isMeasured(column.role)) return measure->number;
   double factor = factorOf(column.role, measure->unit);
   if (factor == 0) factor = factorOf(column.role, column.unit);
   if (factor == 0)
     factor = factorOf(column.role, unitIn(column.role, answers.units.value_or(UnitSystem::Metric)));
-  const double value = measure->number * factor;
-  switch (column.role) {
-    case Feld::Tiefe:
-      return filler.depth(text, value);
-    case Feld::Liter:
-      return filler.tankSize(text, value);
-    case Feld::Blei:
-      return filler.weight(text, value);
-    default:
-      return filler.pressure(column.role, text, value);
-  }
+  return measure->number * factor;
+}
+
+void ForeignCsv::takeMeasure(DiveFiller& filler, const CsvColumn& column, std::string_view text,
+                             const Answers& answers) const {
+  const auto value = valueOf(column, text, answers);
+  if (!value) return filler.noNumber(column.role, text);
+  fill(filler, column.role, text, *value);
+  // Where commas separate cells a point is the decimal sign as a matter of course.
+  const char doubt = decimal_.doubtful(text);
+  if (doubt == ',' || (doubt == '.' && table_->separator() != ','))
+    filler.doubt(column.role, text,
+                 "nothing in the file tells whether its sign groups digits; it was taken for a "
+                 "decimal one");
 }
 
 }  // namespace

@@ -10,7 +10,9 @@ std::unique_ptr<ImportSource> openSource(const std::string& path, std::optional<
                                          const Progress& progress) {
   if (!format) format = formatOf(path);
   if (!format)
-    throw Refused{"The ending of '" + path + "' tells no format: .uddf and .csv are known."};
+    throw Refused{"The ending of '" + path +
+                  "' tells no format: .uddf, .xml, .csv, .tsv and .txt "
+                  "are known."};
   InputFile file(path, progress);
   return *format == Format::Uddf ? readUddf(file) : readCsv(file);
 }

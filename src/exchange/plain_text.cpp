@@ -71,15 +71,15 @@ std::string lowerAscii(std::string_view text) {
   return lower;
 }
 
-bool isUtf8(std::string_view bytes) {
+std::size_t utf8Bytes(std::string_view bytes) {
   constexpr char32_t kBroken = 0xFFFD;
   constexpr std::string_view kBrokenItself = "\xEF\xBF\xBD";
   for (std::size_t at = 0; at < bytes.size();) {
     const auto code = characterFrom(bytes, at);
-    if (code == kBroken && bytes.substr(at, kBrokenItself.size()) != kBrokenItself) return false;
+    if (code == kBroken && bytes.substr(at, kBrokenItself.size()) != kBrokenItself) return at;
     at += code < 0x80 ? 1 : code < 0x800 ? 2 : code < 0x10000 ? 3 : 4;
   }
-  return true;
+  return bytes.size();
 }
 
 }  // namespace nautrel::exchange

@@ -19,8 +19,11 @@ std::vector<std::string_view> linesOf(std::string_view text);
 /// Every run of white space as one blank, none at the ends.
 std::string collapsed(std::string_view text);
 
-/// Whether the bytes are UTF-8 from their first to their last.
-bool isUtf8(std::string_view bytes);
+/// How many bytes from the first on are UTF-8; all of them in a sound text.
+std::size_t utf8Bytes(std::string_view bytes);
+inline bool isUtf8(std::string_view bytes) {
+  return utf8Bytes(bytes) == bytes.size();
+}
 
 /// Shortened for a message: at most 40 characters, on one line.
 std::string shown(std::string_view text);

@@ -55,8 +55,9 @@ bool takePrivateField(DiveRecord& dive, std::string_view name, std::string_view 
   const int ordinal = ordinalOf(name);
   if (ordinal < 0) return false;
   if (diveColumn(ordinal).isFlag) {
-    dive.flags[ordinal] = trimmed(text) == "1";
-    return true;
+    const auto flag = trimmed(text);
+    dive.flags[ordinal] = flag == "1";
+    return flag == "1" || flag == "0";
   }
   if (encoding.empty()) {
     dive.texts[ordinal] = text;

@@ -36,9 +36,9 @@ Meaning meaningOf(int column) {
 }
 
 Cell scaled(const DiveRecord& dive, int column, const Locale& locale, double factor, int decimals) {
-  const auto number = tryNumber(dive.text(column), locale);
-  if (!number || *number < 0 || !std::isfinite(*number * factor)) return {};
-  return fixedText(*number * factor, decimals);
+  const auto text = dive.text(column);
+  if (!faultOfNumber(text, locale).empty()) return {};
+  return fixedText(*tryNumber(text, locale) * factor, decimals);
 }
 
 /// A bare number is in feet, as is everything else here.
@@ -104,6 +104,12 @@ std::vector<std::string> buddiesOf(std::string_view list) {
   for (const auto part : splitAt(list, ", "))
     if (auto buddy = collapsed(part); !buddy.empty()) buddies.push_back(std::move(buddy));
   return buddies;
+}
+
+std::string_view faultOfNumber(std::string_view text, const Locale& locale) {
+  const auto number = tryNumber(text, locale);
+  if (!number || !std::isfinite(*number * kPascalsOfPsi)) return "is no number";
+  return *number < 0 ? "is negative" : "";
 }
 
 const std::vector<int>& columnsToldBy(int column) {

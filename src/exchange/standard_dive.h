@@ -32,6 +32,9 @@ bool meansTheSame(int column, const Cell& fromFile, const Cell& exact);
 /// The unknown date, for a form that must have one.
 inline constexpr const char* kUnknownDate = "1900-01-01";
 
+/// Why a text is no value of a dive: "is no number", "is negative"; empty for one that is.
+std::string_view faultOfNumber(std::string_view text, const Locale& locale);
+
 /// The parts of a list of buddies, blanks around them and empty ones dropped.
 std::vector<std::string> buddiesOf(std::string_view list);
 

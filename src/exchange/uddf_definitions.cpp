@@ -8,8 +8,11 @@
 namespace nautrel::exchange {
 namespace {
 
-std::string id(const XmlElement& element) {
-  return std::string(element.attribute("id"));
+/// What has no id is nothing to link to: an empty link means nothing.
+template <class Definitions, class Definition>
+void define(Definitions& known, const XmlElement& element, Definition definition) {
+  const auto id = element.attribute("id");
+  if (!id.empty()) known.try_emplace(std::string(id), std::move(definition));
 }
 
 std::string text(const XmlElement& element, std::string_view name) {
@@ -53,6 +56,11 @@ std::string nameIn(const XmlElement& piece, std::string_view kind, const UddfDef
   return maker == known.makers.end() ? "" : maker->second;
 }
 
+bool isNoPiece(std::string_view name) {
+  return name == "link" || name == "equipmentconfiguration" || name == "manufacturer" ||
+         name == "shop" || name == "notes";
+}
+
 bool hasMoreThanName(const XmlElement& piece) {
   for (const auto& child : piece.children)
     if (child.name != "name" && child.name != "tankmaterial") return true;
@@ -81,41 +89,41 @@ void defineSite(UddfDefinitions& known, const XmlElement& site) {
   const auto* geography = site.child("geography");
   const auto* address = geography == nullptr ? nullptr : geography->child("address");
   if (address == nullptr) address = site.child("address");
-  known.sites.try_emplace(
-      id(site),
-      UddfDefinitions::Site{.country = address != nullptr ? childText(address, "country")
-                                                          : childText(geography, "country"),
-                            .location = childText(geography, "location"),
-                            .city = childText(address, "city"),
-                            .name = childText(&site, "name"),
-                            .environment = childText(&site, "environment"),
-                            .density = readFileNumber(site.textOf("density")).value_or(0)});
+  define(known.sites, site,
+         UddfDefinitions::Site{.country = address != nullptr ? childText(address, "country")
+                                                             : childText(geography, "country"),
+                               .location = childText(geography, "location"),
+                               .city = childText(address, "city"),
+                               .name = childText(&site, "name"),
+                               .environment = childText(&site, "environment"),
+                               .density = readFileNumber(site.textOf("density")).value_or(0)});
 }
 
 void defineMix(UddfDefinitions& known, const XmlElement& mix) {
-  known.mixes.try_emplace(
-      id(mix), UddfDefinitions::Mix{text(mix, "name"), percent(mix, "o2"), percent(mix, "he")});
+  define(known.mixes, mix,
+         UddfDefinitions::Mix{text(mix, "name"), percent(mix, "o2"), percent(mix, "he")});
 }
 
 void defineBuddy(UddfDefinitions& known, const XmlElement& buddy) {
-  known.buddies.try_emplace(id(buddy), personName(buddy));
+  define(known.buddies, buddy, personName(buddy));
 }
 
 void defineImage(UddfDefinitions& known, const XmlElement& image) {
-  known.images.try_emplace(id(image), text(image, "objectname"));
+  define(known.images, image, text(image, "objectname"));
 }
 
 void defineMaker(UddfDefinitions& known, const XmlElement& maker) {
-  known.makers.try_emplace(id(maker), childText(&maker, "name"));
+  define(known.makers, maker, childText(&maker, "name"));
 }
 
 void defineEquipment(UddfDefinitions& known, const XmlElement& owner) {
-  owner.forEach("suit", [&](const XmlElement& suit) {
-    known.suits.try_emplace(id(suit), childText(&suit, "name"));
-  });
+  owner.forEach(
+      "suit", [&](const XmlElement& suit) { define(known.suits, suit, childText(&suit, "name")); });
+  for (const auto* kind : {"manufacturer", "shop"})
+    owner.forEach(kind, [&](const XmlElement& maker) { defineMaker(known, maker); });
   owner.forEach("tank", [&](const XmlElement& tank) {
-    known.tanks.try_emplace(
-        id(tank), UddfDefinitions::Tank{text(tank, "tankmaterial"), text(tank, "tankvolume")});
+    define(known.tanks, tank,
+           UddfDefinitions::Tank{text(tank, "tankmaterial"), text(tank, "tankvolume")});
   });
 }
 
@@ -156,10 +164,9 @@ std::vector<TextRow> equipmentOf(const XmlElement& owner, const UddfDefinitions&
   if (equipment == nullptr) return pieces;
   for (const auto& piece : equipment->children) {
     const bool toldByDives = piece.name == "suit" || piece.name == "tank";
-    if (piece.name == "link" || piece.name == "equipmentconfiguration" ||
-        (toldByDives && !hasMoreThanName(piece)))
-      continue;
-    pieces.push_back(pieceOf(piece, known));
+    if (isNoPiece(piece.name) || (toldByDives && !hasMoreThanName(piece))) continue;
+    auto row = pieceOf(piece, known);
+    if (piece.child("name") != nullptr || !isBlank(row)) pieces.push_back(std::move(row));
   }
   return pieces;
 }

@@ -2,6 +2,7 @@
 #include "exchange/uddf_dive.h"
 
 #include "exchange/dates.h"
+#include "exchange/dive_lines.h"
 #include "exchange/plain_text.h"
 #include "exchange/private_block.h"
 #include "exchange/uddf_values.h"
@@ -35,6 +36,14 @@ std::string laidOut(std::string_view text) {
   for (const auto line : linesOf(trimmed(text)))
     (lines += lines.empty() ? "" : "\n") += trimmed(line);
   return lines;
+}
+
+/// Of a tank that has no columns; what is no number stands in the comments as it is.
+double numberOfTank(DiveFiller& filler, int tank, const std::string& text) {
+  const auto number = readFileNumber(text);
+  if (number && *number >= 0) return *number;
+  if (!text.empty()) filler.line("Tank " + std::to_string(tank) + ": " + text);
+  return 0;
 }
 
 std::string lowered(std::string_view text) {
@@ -193,9 +202,9 @@ SourceDive UddfDive::foreign(const StandardDive& told, const UddfDefinitions& kn
   const auto interval = readFileNumber(interval_);
   if (interval && *interval > 0 && *interval <= kRepetitive) filler.flag(Feld::Rep);
   tellTanks(filler, known);
-  for (const auto& [label, kelvin] : temperatures_) tellTemperature(filler, label, kelvin);
+  for (const auto& [label, kelvin] : temperatures_) tellKelvin(filler, label, kelvin);
   if (samples_.lowestTemperature && temperatures_.empty())
-    tellTemperature(filler, "Lowest temperature", fixedText(*samples_.lowestTemperature, 2));
+    tellKelvin(filler, "Lowest temperature", fixedText(*samples_.lowestTemperature, 2));
   filler.finish();
   return dive;
 }
@@ -204,12 +213,18 @@ void UddfDive::tellTanks(DiveFiller& filler, const UddfDefinitions& known) const
   const auto main = mainTank();
   for (std::size_t place = 0; place < tanks_.size(); ++place) {
     const auto& tank = tanks_[place];
-    const auto gas = gasText(firstOf(known.mixes, tank.links));
-    const auto details =
-        place == main ? std::string() : tankText(tank.volume, tank.begin, tank.end);
-    if (gas.empty() && details.empty()) continue;
-    filler.line("Tank " + std::to_string(place + 1) + ": " + details +
-                (details.empty() || gas.empty() ? "" : ", ") + gas);
+    const auto number = static_cast<int>(place) + 1;
+    ToldTank told;
+    if (place != main) {
+      const auto read = [&](const std::string& text) { return numberOfTank(filler, number, text); };
+      told = {cubicMetresOf(read(tank.volume)), pascalsOf(read(tank.begin)),
+              pascalsOf(read(tank.end))};
+    }
+    if (const auto* mix = firstOf(known.mixes, tank.links)) {
+      told.oxygen = mix->oxygen;
+      told.helium = mix->helium;
+    }
+    tellTank(filler, number, told, place == main);
   }
 }
 

@@ -1,19 +1,20 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "exchange/uddf_values.h"
 
+#include <algorithm>
 #include <functional>
 
+#include "exchange/dive_lines.h"
 #include "exchange/plain_text.h"
 #include "exchange/units.h"
 
 namespace nautrel::exchange {
-namespace {
 
-/// Some programs write bar or psi, one wrote litres: such numbers are none in pascals and m³.
-constexpr double kBarsBelow = 400;
-constexpr double kPsiUpTo = 6000;
+// Some programs write bar or psi, one wrote litres: such numbers are none in pascals and m³.
 
 double pascalsOf(double pressure) {
+  constexpr double kBarsBelow = 400;
+  constexpr double kPsiUpTo = 6000;
   if (pressure < kBarsBelow) return pressure * kPascalsOfBar;
   return pressure <= kPsiUpTo ? pressure * kPascalsOfPsi : pressure;
 }
@@ -21,6 +22,8 @@ double pascalsOf(double pressure) {
 double cubicMetresOf(double volume) {
   return volume >= 1 ? volume * kCubicMetresOfLitre : volume;
 }
+
+namespace {
 
 void number(DiveFiller& filler, const StandardDive& told, int column, std::string_view unit,
             const std::function<void(const std::string&, double)>& take) {
@@ -91,49 +94,33 @@ void fillFromSamples(DiveFiller& filler, const DiveRecord& record, const SampleS
     filler.pressure(Feld::Bare, "of the samples", pascalsOf(*samples.lastPressure));
 }
 
-std::string gasText(const UddfDefinitions::Mix* mix) {
-  constexpr double kAir = 21;
-  constexpr double kAlmost = 0.5;
-  if (mix == nullptr) return {};
-  if (mix->helium >= kAlmost)
-    return "trimix " + fixedText(mix->oxygen, 0) + "/" + fixedText(mix->helium, 0);
-  if (mix->oxygen <= 0 || std::abs(mix->oxygen - kAir) < kAlmost) return {};
-  return "EAN" + fixedText(mix->oxygen, 0);
-}
-
-std::string tankText(std::string_view volume, std::string_view begin, std::string_view end) {
-  const auto size = cubicMetresOf(readFileNumber(volume).value_or(0));
-  const auto from = pascalsOf(readFileNumber(begin).value_or(0));
-  const auto to = pascalsOf(readFileNumber(end).value_or(0));
-  std::string text;
-  if (size > 0) text = fixedText(size / kCubicMetresOfLitre, 1) + " l";
-  if (from > 0 || to > 0)
-    text += (text.empty() ? "" : ", ") + fixedText(from / kPascalsOfBar, 0) + "-" +
-            fixedText(to / kPascalsOfBar, 0) + " bar";
-  return text;
-}
-
-void tellTemperature(DiveFiller& filler, const std::string& label, std::string_view kelvin) {
+void tellKelvin(DiveFiller& filler, const std::string& label, std::string_view kelvin) {
   const auto temperature = readFileNumber(kelvin);
-  if (!temperature || *temperature <= 0) return;
+  if (!temperature || *temperature == 0) return;
   // Some programs write degrees Celsius.
   constexpr double kColdest = 150;
-  const double celsius = *temperature < kColdest ? *temperature : *temperature - kZeroCelsius;
-  filler.line(label + ": " + fixedText(celsius, 1) + " °C (" + fixedText(celsius * 1.8 + 32, 0) +
-              " °F)");
+  tellTemperature(filler, label,
+                  *temperature < kColdest ? *temperature : *temperature - kZeroCelsius);
 }
 
 void takeEdited(SourceDive& dive, const SourceDive& edited, int column, const std::string& told) {
+  const auto change = [&](int each, std::string from, std::string to) {
+    dive.changes.push_back({std::string(diveColumn(each).label), std::move(from), std::move(to),
+                            "changed in another program"});
+  };
   for (const int each : columnsToldBy(column)) {
-    dive.record.flags[each] = edited.record.flags[each];
-    if (diveColumn(each).isFlag) continue;
+    if (diveColumn(each).isFlag) {
+      const bool now = edited.record.flags[each];
+      if (dive.record.flags[each] != now) change(each, now ? "no" : "yes", now ? "yes" : "no");
+      dive.record.flags[each] = now;
+      continue;
+    }
     // Those two come with more, or not at all, in a dive of another program.
     const bool asTold = each == Feld::Nr || each == Feld::Lang;
     const auto now = asTold ? told : std::string(edited.record.text(each));
     auto& text = dive.record.texts[each];
     if (now.empty() || text == now) continue;
-    dive.changes.push_back({std::string(diveColumn(each).label), text.value_or(""), now,
-                            "changed in another program"});
+    change(each, text.value_or(""), now);
     text = now;
   }
 }

@@ -17,12 +17,13 @@ void fillFromSite(DiveFiller& filler, DiveRecord& record, const UddfDefinitions:
 void fillFromSamples(DiveFiller& filler, const DiveRecord& record, const SampleSummary& samples);
 /// @}
 
-/// "EAN32", "21/35"; empty for air, for no mix and for one that says nothing.
-std::string gasText(const UddfDefinitions::Mix* mix);
-/// "12 l, 200-50 bar", from the texts of the file; empty if none says anything.
-std::string tankText(std::string_view volume, std::string_view begin, std::string_view end);
-/// "Lowest temperature: 18.5 °C (65.3 °F)", from kelvin.
-void tellTemperature(DiveFiller& filler, const std::string& label, std::string_view kelvin);
+/// The size and the pressure of a tank as a file may mean them, in m³ and Pa.
+/// @{
+double cubicMetresOf(double volume);
+double pascalsOf(double pressure);
+/// @}
+/// "Lowest temperature: 18.5 °C (65 °F)", from kelvin.
+void tellKelvin(DiveFiller& filler, const std::string& label, std::string_view kelvin);
 
 /// Replaces the columns that an element tells by those of `edited`, as a change made elsewhere;
 /// `told` is the element's text.

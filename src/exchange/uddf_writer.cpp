@@ -259,10 +259,15 @@ void UddfWriter::noteLosses(const DiveRecord& dive, const StandardDive& told) {
     notes_.push_back(nameOf(dive) + ": " + shown(dive.text(Feld::Tag)) + "." +
                      shown(dive.text(Feld::Monat)) + "." + shown(dive.text(Feld::Jahr)) +
                      " is no date and stands as " + orEmpty(told[Feld::Tag]) + " in the file.");
-  for (const int column : {Feld::Zeit, Feld::Tiefe})
-    if (!told[column] && !dive.text(column).empty())
-      notes_.push_back(nameOf(dive) + ": " + std::string(diveColumn(column).label) + " '" +
-                       shown(dive.text(column)) + "' is no number and stands as 0 in the file.");
+  for (int column = 0; column < kDiveColumns; ++column) {
+    const auto text = dive.text(column);
+    if (!diveColumn(column).isNumber || told[column] || text.empty()) continue;
+    const bool required = column == Feld::Zeit || column == Feld::Tiefe;
+    notes_.push_back(
+        nameOf(dive) + ": " + std::string(diveColumn(column).label) + " '" + shown(text) + "' " +
+        std::string(faultOfNumber(text, locale_)) +
+        (required ? " and stands as 0 in the file." : " and comes back to Nautrel alone."));
+  }
 }
 
 }  // namespace nautrel::exchange

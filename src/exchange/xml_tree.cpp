@@ -14,12 +14,16 @@ constexpr std::string_view kParagraph = "para";
 constexpr std::string_view kAttributes[] = {"id",  "ref",   "n",        "enc",
                                             "dec", "xmlns", "currency", "kind"};
 
+std::size_t endOfText(std::string_view text) {
+  return text.find_last_not_of(" \t\r\n") + 1;
+}
+
+/// Bare text before it is a line of its own.
 void takeParagraph(XmlElement& parent, XmlElement paragraph) {
-  if (trimmed(parent.text).empty() && parent.paragraphs == 0)
-    parent.text = std::move(paragraph.text);
-  else
-    (parent.text += '\n') += paragraph.text;
-  ++parent.paragraphs;
+  if (!parent.afterParagraph) parent.text.erase(endOfText(parent.text));
+  if (parent.afterParagraph || !parent.text.empty()) parent.text += '\n';
+  parent.text += paragraph.text;
+  parent.afterParagraph = true;
   for (auto& child : paragraph.children) parent.children.push_back(std::move(child));
 }
 
@@ -65,8 +69,14 @@ void XmlCollector::begin(std::string_view name, const XmlAttributes& attributes,
 
 void XmlCollector::text(std::string_view text) {
   auto& element = open_.back();
-  // What stands between paragraphs is but their layout.
-  if (element.paragraphs > 0 && trimmed(text).empty()) return;
+  if (element.afterParagraph) {
+    // What stands between paragraphs is but their layout; other text begins a line.
+    const auto start = text.find_first_not_of(" \t\r\n");
+    if (start == std::string_view::npos) return;
+    text.remove_prefix(start);
+    element.text += '\n';
+    element.afterParagraph = false;
+  }
   element.text += text;
 }
 

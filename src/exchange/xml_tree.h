@@ -18,7 +18,7 @@ struct XmlElement {
   std::vector<std::pair<std::string, std::string>> attributes;  // those that mean something here
   /// Its own text, and of its paragraphs a line each.
   std::string text;
-  int paragraphs = 0;
+  bool afterParagraph = false;
   std::vector<XmlElement> children;
 
   /// Empty if there is none.

@@ -3,6 +3,7 @@
 
 #include <random>
 
+#include "exchange/csv_writer.h"
 #include "exchange_test.h"
 
 namespace nautrel::exchange {
@@ -22,6 +23,14 @@ std::string many(const std::string& text, int times) {
   std::string all;
   for (int count = 0; count < times; ++count) all += text;
   return all;
+}
+
+/// A file of ours whose first flag was changed elsewhere.
+std::string ownCsv(const std::string& flag) {
+  std::string file;
+  appendCsvHeader(file, ',');
+  appendCsvDive(file, ',', plainDive("1"));
+  return file.replace(file.find(",0,"), 3, "," + flag + ",");
 }
 
 const std::string kHead = "Date,Duration,Max Depth (m)\n";
@@ -85,7 +94,19 @@ TEST(BadInput, IsRefusedWithOneSentenceAndItsPlace) {
        uddf("<dive><datetime>2001-03-05</datetime><greatestdepth>NaN</greatestdepth>"
             "<diveduration>60</diveduration></dive>"),
        "since its depth 'NaN' is none."},
-      {"6.dat", "x", "tells no format: .uddf and .csv are known."},
+      {"6.dat", "x", "tells no format: .uddf, .xml, .csv, .tsv and .txt are known."},
+      {"8.csv", "\xEF\xBB\xBF" + kHead + "2001-03-05,45,10 m \xC3\xA4\n2001-03-05,45,10 \xE4\n",
+       "is marked as UTF-8 and is none in line 3."},
+      {"9.csv",
+       "Date,Duration,Max Depth (m),Notes\n2001-03-05,45,10," + std::string((1U << 20) + 1, 'x') +
+           "\n",
+       "a text in line 2 is longer than 1 MB."},
+      {"0.csv", ownCsv("2"), "'Salt' in line 2 is '2', neither 0 nor 1."},
+      {"A.csv", ownCsv(""), "'Salt' in line 2 is '', neither 0 nor 1."},
+      {"B.uddf",
+       uddf("<dive><applicationdata>\n<nautrel dec='.'><f n='Salz'>yes</f></nautrel>"
+            "</applicationdata></dive>"),
+       "The private block of Nautrel in line 2 is damaged."},
   };
   Book book;
   for (const auto& each : cases) {

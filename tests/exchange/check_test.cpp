@@ -35,21 +35,22 @@ TEST(Check, TellsOfEveryDiveWhatIsWrongWithIt) {
   dive.texts[Feld::Jahr] = "99";
   dive.texts[Feld::Höhe] = "high";
   dive.texts[Feld::Bare] = "";
+  dive.texts[Feld::Tiefe] = "-5";
   dive.texts[Feld::Grafik] = book.folder.write("here.jpg", "");
   book.add(dive);
   dive = plainDive("1", "60,5");
   dive.texts[Feld::Grafik] = "here.jpg";
   book.add(dive);
   const auto before = readFile(book.path);
-  EXPECT_EQ(
-      findingsIn(book, {.decimal = ",", .grouping = "."}),
-      (Texts{"2 number Dive 5: it follows dive 3.", "2 date Dive 5: '31.02.2001' is no date.",
-             "2 value Dive 5: Max depth is missing.",
-             "2 value Dive 5: Start pressure 'full' is no number.",
-             "2 flags Dive 5: Salt and Fresh are both set.",
-             "2 flags Dive 5: Good visibility and Medium visibility are both set.",
-             "2 picture Dive 5: the picture 'gone.jpg' is gone.",
-             "3 number Row 3: 'x' is no dive number.", "3 date Row 3: '05.03.99' is no date."}));
+  EXPECT_EQ(findingsIn(book, {.decimal = ",", .grouping = "."}),
+            (Texts{"2 number Dive 5: it follows dive 3.", "2 date Dive 5: '31.02.2001' is no date.",
+                   "2 value Dive 5: Max depth is missing.",
+                   "2 value Dive 5: Start pressure 'full' is no number.",
+                   "2 flags Dive 5: Salt and Fresh are both set.",
+                   "2 flags Dive 5: Good visibility and Medium visibility are both set.",
+                   "2 picture Dive 5: the picture 'gone.jpg' is gone.",
+                   "3 number Row 3: 'x' is no dive number.", "3 date Row 3: '05.03.99' is no date.",
+                   "3 value Row 3: Max depth '-5' is negative."}));
   EXPECT_TRUE(readFile(book.path) == before);
 }
 

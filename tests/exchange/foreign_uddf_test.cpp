@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "exchange/dates.h"
 #include "exchange/import_report.h"
 #include "exchange_test.h"
 
@@ -46,9 +47,10 @@ const ForeignFile kFiles[] = {
       "20010305 Zeit=1 Tiefe=16.4 +Rep"}},
     {"computer: owner without id, ids with blanks and colons, six tanks at 0, empty headings",
      R"(<uddf xmlns="http://www.streit.cc/uddf/3.2/" version="3.2.1"><maker><manufacturer id="m"><name>M</name></manufacturer><manufacturer id="m"><name>N</name></manufacturer></maker>
-<diver><owner><personal><firstname/><lastname/></personal></owner></diver>
-<gasdefinitions><mix id="OC1:32/00 a"><name>EAN32</name><o2>0.32</o2><he>0.0</he></mix></gasdefinitions>
-<profiledata><repetitiongroup id="dive 1"><dive id="dive 1"><informationbeforedive><link ref=""/><divenumber>1</divenumber><datetime>2019-08-01T09:30:15Z</datetime><surfacepressure>7000000</surfacepressure><surfaceintervalbeforedive><passedtime>86340</passedtime></surfaceintervalbeforedive></informationbeforedive>
+<diver><owner><personal><firstname/><lastname/></personal></owner><buddy><personal><firstname>Nobody</firstname></personal></buddy></diver>
+<divesite><site><name>Nowhere</name></site><site id=" "><name>Neither</name></site></divesite>
+<gasdefinitions><mix><o2>0.5</o2></mix><mix id="OC1:32/00 a"><name>EAN32</name><o2>0.32</o2><he>0.0</he></mix></gasdefinitions>
+<profiledata><repetitiongroup id="dive 1"><dive id="dive 1"><informationbeforedive><link ref=""/><link/><divenumber>1</divenumber><datetime>2019-08-01T09:30:15Z</datetime><surfacepressure>7000000</surfacepressure><surfaceintervalbeforedive><passedtime>86340</passedtime></surfaceintervalbeforedive></informationbeforedive>
 <tankdata><link ref="OC1:32/00 a"/><tankpressurebegin>0</tankpressurebegin><tankpressureend>0</tankpressureend></tankdata><tankdata><tankpressurebegin>0</tankpressurebegin></tankdata>
 <samples><waypoint><depth>3</depth><divetime>10</divetime><switchmix ref="OC1:32/00 a"/></waypoint></samples>
 <informationafterdive><lowesttemperature>291.15</lowesttemperature><greatestdepth>30.5</greatestdepth><diveduration>3600</diveduration><notes><para></para><para> </para></notes></informationafterdive></dive></repetitiongroup></profiledata></uddf>)",
@@ -66,8 +68,11 @@ const ForeignFile kFiles[] = {
      {"20010305 Ort=Dahab Platz=Blue Hole Zeit=45 Tiefe=60.5 Lang=first & second\nline +Süß "
       "Liter=80 Bars=3000 +Sichts"}},
     {"desktop log A: CDATA, long decimals, country in the address, density",
-     R"(<uddf version="3.2.1"><divesite><site id="s"><name>Wreck</name><geography><address><country>Malta</country></address></geography><sitedata><density>1030</density></sitedata></site></divesite><profiledata><repetitiongroup id="r"><dive id="d"><informationbeforedive><datetime>2010-06-18T</datetime><divenumber>3</divenumber><link ref="s"/></informationbeforedive><informationafterdive><greatestdepth>45.30000</greatestdepth><diveduration>3494.00</diveduration><visibility>20</visibility><notes><para><![CDATA[<b>deep</b>]]></para></notes></informationafterdive></dive></repetitiongroup></profiledata></uddf>)",
-     {"20100618 Land=Malta Platz=Wreck Zeit=58 Tiefe=149 Lang=<b>deep</b> +Salz +Sichtg"}},
+     R"(<uddf version="3.2.1"><divesite><site id="s"><name>Wreck</name><geography><address><country>Malta</country></address></geography><sitedata><density>1030</density></sitedata></site></divesite><profiledata><repetitiongroup id="r"><dive id="d"><informationbeforedive><datetime>2010-06-18T</datetime><divenumber>3</divenumber><link ref="s"/></informationbeforedive><informationafterdive><greatestdepth>45.30000</greatestdepth><diveduration>3494.00</diveduration><visibility>20</visibility><notes>dark &amp;
+ cold
+<para><![CDATA[<b>deep</b>]]></para> and <b/> calm <para>wide</para></notes></informationafterdive></dive></repetitiongroup></profiledata></uddf>)",
+     {"20100618 Land=Malta Platz=Wreck Zeit=58 Tiefe=149 Lang=dark &\ncold\n<b>deep</b>\nand  "
+      "calm\nwide +Salz +Sichtg"}},
     {"desktop log B: no date, pressures in samples alone, safety stops",
      R"(<uddf version="3.2.1"><profiledata><repetitiongroup id="r"><dive id="a"><informationbeforedive><datetime>0001-01-01T00:00:00</datetime></informationbeforedive><informationafterdive><greatestdepth>10</greatestdepth><diveduration>600</diveduration></informationafterdive></dive>
 <dive id="b"><informationbeforedive><datetime>2015-01-02T10:11</datetime></informationbeforedive><samples><waypoint><depth>20</depth><divetime>0</divetime><tankpressure ref="t">20000000</tankpressure><tankpressure ref="u">19000000</tankpressure><decostop kind="safety" duration="180"/></waypoint><waypoint><depth>25.5</depth><divetime>1200</divetime><tankpressure ref="t">6000000</tankpressure><decostop kind="mandatory" decodepth="3" duration="60"/></waypoint></samples><informationafterdive><greatestdepth>0</greatestdepth></informationafterdive></dive></repetitiongroup></profiledata></uddf>)",
@@ -94,6 +99,28 @@ TEST(ForeignUddf, ReadsTheMannerOfEachProgram) {
   }
 }
 
+TEST(ForeignUddf, ReadsTheDigitsOfADate) {
+  const std::pair<const char*, int> dates[] = {{"2002-06-18", -1},
+                                               {"2002-06-18T", -1},
+                                               {"2002-06-18Z", -1},
+                                               {"2002-06-18+02:00", -1},
+                                               {"2002-06-18-0530", -1},
+                                               {"2002-06-18T10", 600},
+                                               {"2002-06-18T10Z", 600},
+                                               {"2002-06-18 10:05", 605},
+                                               {"2002-06-18T10:05+02:00", 605},
+                                               {"2002-06-18T10:05:59.9999999Z", 605}};
+  for (const auto& [text, minute] : dates) {
+    SCOPED_TRACE(text);
+    const auto moment = readMoment(text);
+    ASSERT_TRUE(moment);
+    EXPECT_EQ(isoText(moment->date), "2002-06-18");
+    EXPECT_EQ(moment->minuteOfDay.value_or(-1), minute);
+  }
+  for (const char* none : {"2002-06-18x", "2002-06-31", "2002-06", "0001-01-01", "2002-06-18+"})
+    EXPECT_FALSE(readMoment(none)) << none;
+}
+
 TEST(ForeignUddf, ReadsEveryEncoding) {
   Book book;
   std::string plain =
@@ -117,18 +144,22 @@ TEST(ForeignUddf, FitsTheBoxesAndTellsWhatItChanged) {
            "<profiledata><dive id='d'>" +
            before("<link ref='s'/><datetime>2001-03-05</datetime>"
                   "<equipmentused><leadquantity>99999</leadquantity></equipmentused>") +
+           "<tankdata><tankvolume>-0.01</tankvolume><tankpressurebegin>-5</tankpressurebegin>"
+           "</tankdata>" +
            after("<greatestdepth>45.9</greatestdepth><diveduration>2730</diveduration>"
                  "<notes>n</notes>") +
            "</dive></profiledata>"));
   const auto& dive = plan.dives()[0];
   EXPECT_EQ(told(dive),
             "20010305 Platz=A name of more than  Zeit=46 Tiefe=151 "
-            "Lang=n\nWeight: 99999 kg\nPlace: A name of more than twenty");
+            "Lang=n\nWeight: 99999 kg\nTank size: -0.01\nStart pressure: -5\nPlace: A name of more "
+            "than twenty");
   std::string changes;
   for (const auto& change : dive.source.changes)
     changes += change.column + ": " + change.from + " -> " + change.to + "; ";
   EXPECT_EQ(changes,
             "Duration: 2730 s -> 46; Max depth: 45.9 m -> 151; Weight: 99999 kg -> ; "
+            "Tank size: -0.01 -> ; Start pressure: -5 -> ; "
             "Place: A name of more than twenty -> A name of more than ; ");
   EXPECT_NE(reportText(plan).find("Line 1 (d): taken as dive 1\n    Duration: '2730 s' became"),
             std::string::npos);
@@ -139,7 +170,7 @@ TEST(ForeignUddf, TakesCardAndEquipmentWhereTheyAreWanted) {
       R"(<maker><manufacturer id="m"><name>Acme</name></manufacturer></maker>
 <diver><owner id="o"><personal><firstname>Ann</firstname><lastname>Lee</lastname><birthdate><datetime>1970-04-03T00:00:00</datetime></birthdate></personal>
 <address><street>A street with a very long name</street></address><contact><mobilephone>12</mobilephone></contact>
-<equipment><suit id="s"><name>5mm</name></suit><regulator id="r"><name>Reg</name><manufacturer><link ref="m"/></manufacturer><purchase><price currency="EUR">90</price></purchase></regulator><suit id="t"><name>Dry</name><serialnumber>7</serialnumber></suit></equipment>
+<equipment><manufacturer id="own"><name>Own</name></manufacturer><camera><body/></camera><suit id="s"><name>5mm</name></suit><regulator id="r"><name>Reg</name><manufacturer><link ref="m"/></manufacturer><purchase><price currency="EUR">90</price></purchase></regulator><suit id="t"><name>Dry</name><manufacturer ref="own"/><serialnumber>7</serialnumber></suit></equipment>
 <education><certification><level>AOWD</level><instructor><personal><firstname>I</firstname><lastname>N</lastname></personal></instructor></certification></education></owner></diver>)");
   Book book;
   const auto path = book.folder.write("a.uddf", file);
@@ -153,8 +184,9 @@ TEST(ForeignUddf, TakesCardAndEquipmentWhereTheyAreWanted) {
   const auto pieces = book.equipment();
   ASSERT_EQ(pieces.size(), 2U);
   EXPECT_EQ(text(pieces[0][Stück::Fabrikant]) + text(pieces[0][Stück::Preis]) +
-                text(pieces[1][Stück::Gegenstand]) + text(pieces[1][Stück::Nr]),
-            "Acme90 EURDry2");
+                text(pieces[1][Stück::Gegenstand]) + text(pieces[1][Stück::Fabrikant]) +
+                text(pieces[1][Stück::Nr]),
+            "Acme90 EURDryOwn2");
   const auto again = book.plan(path);
   EXPECT_FALSE(again.takesCard());
   EXPECT_EQ(again.takesEquipment(), 0);

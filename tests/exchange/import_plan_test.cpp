@@ -66,6 +66,16 @@ TEST(ImportPlan, SkipsAsManyDuplicatesAsAreStored) {
   EXPECT_EQ(book.dives().size(), 4U);
 }
 
+TEST(ImportPlan, ComparesDepthsToTheLastHalfFoot) {
+  for (const auto& [stored, read, alike] :
+       {std::tuple{"15.6", "16.1", true}, {"31.7", "32.2", true}, {"31.7", "32.3", false}}) {
+    Book book;
+    book.add(plainDive("7", stored));
+    const auto plan = book.planOf("a.csv", kHead + "1,2001-03-05,,45," + read + "\n");
+    EXPECT_EQ(plan.counts().duplicates, alike ? 1 : 0) << stored << " " << read;
+  }
+}
+
 TEST(ImportPlan, TakesAFileOfOursTwiceOnlyWhereTheUserInsists) {
   Book book;
   for (const char* date : {"31.02.1999", "ab"}) {

@@ -144,7 +144,12 @@ TEST(RoundTrip, ChangesMadeElsewhereSurvive) {
   expected.flags[Feld::Salz] = false;
   expected.flags[Feld::Süß] = true;
   EXPECT_TRUE(read.record == expected) << described(read.record);
-  EXPECT_EQ(read.changes.size(), 4U);
+  std::string changes;
+  for (const auto& change : read.changes)
+    changes += change.column + ": " + change.from + " -> " + change.to + "; ";
+  EXPECT_EQ(changes,
+            "Nr: 7 -> 8; Country: Egypt -> Sudan; Max depth: 60.5 -> 65.9; "
+            "Notes: one\r\ntwo -> one\nthree; Salt: yes -> no; Fresh: no -> yes; ");
 }
 
 TEST(RoundTrip, TakesTheRoundingOfOthersForTheValueItself) {

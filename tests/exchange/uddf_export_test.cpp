@@ -68,6 +68,7 @@ TEST(UddfExport, GivesOtherProgramsTheValuesInTheirUnits) {
 TEST(UddfExport, TellsWhatTheFormCannotHold) {
   auto noDate = plainDive("1", "ca. 20");
   noDate.texts[Feld::Tag] = "ab";
+  noDate.texts[Feld::Blei] = "-4";
   auto late = plainDive("2");
   late.texts[Feld::Tag] = "31";
   late.texts[Feld::Monat] = "02";
@@ -76,6 +77,7 @@ TEST(UddfExport, TellsWhatTheFormCannotHold) {
   EXPECT_EQ(notes, (std::vector<std::string>{
                        "Dive 1: ab.03.2001 is no date and stands as 1900-01-01 in the file.",
                        "Dive 1: Max depth 'ca. 20' is no number and stands as 0 in the file.",
+                       "Dive 1: Weight '-4' is negative and comes back to Nautrel alone.",
                        "Dive 2: 31.02.2001 is no date and stands as 2001-02-28 in the file."}));
   EXPECT_NE(file.find("<datetime>1900-01-01T00:00:00<"), std::string::npos);
   EXPECT_NE(file.find("<datetime>2001-02-28T00:00:00<"), std::string::npos);
