@@ -55,7 +55,7 @@ bool ImportPlan::execute(Workspace& workspace, const std::string& logbook,
     requireUnchanged(database);
     if (!appendDives(database, progress)) return false;
     if (takesCard()) storeCard(database);
-    appendEquipment(database);
+    if (takesEquipment() > 0) appendEquipment(database);
     transaction.commit();
   }
   // What is committed is stored: on a full disk it waits in the log, and is no reason to say it

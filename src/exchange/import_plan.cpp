@@ -176,6 +176,11 @@ void ImportPlan::leaveOut(std::size_t place, bool yes) {
   settleFates();
 }
 
+void ImportPlan::leaveAllOut(bool yes) {
+  for (auto& dive : dives_) dive.unwanted = yes;
+  settleFates();
+}
+
 ImportPlan::Counts ImportPlan::counts() const {
   Counts counts;
   for (const auto& dive : dives_) {

@@ -56,13 +56,18 @@ class ImportPlan {
   void insist(std::size_t place, bool yes = true);
   /// Leaves a dive out, or takes that back.
   void leaveOut(std::size_t place, bool yes = true);
+  /// The same for all dives at once.
+  void leaveAllOut(bool yes);
 
   /// Why the plan cannot be carried out; empty if it can.
   std::string refusal() const;
   /// Taken as it stands: a file of ours into an empty logbook.
   bool asItStands() const { return asItStands_; }
-  bool takesCard() const { return !card_.empty(); }
-  int takesEquipment() const { return static_cast<int>(equipment_.size()); }
+  bool takesCard() const { return wantsCard_ && !card_.empty(); }
+  int takesEquipment() const { return wantsEquipment_ ? static_cast<int>(equipment_.size()) : 0; }
+  /// Leave the card or the equipment that was planned where they are, or take that back.
+  void wantCard(bool yes) { wantsCard_ = yes; }
+  void wantEquipment(bool yes) { wantsEquipment_ = yes; }
   /// What concerns the whole file, a sentence each.
   const std::vector<std::string>& notes() const { return notes_; }
 
@@ -87,6 +92,8 @@ class ImportPlan {
   TextRow card_;
   std::vector<TextRow> equipment_;
   std::vector<std::string> notes_;
+  bool wantsCard_ = true;
+  bool wantsEquipment_ = true;
   bool asItStands_ = false;
   int storedDives_ = 0;
   Cell lastNumber_;  // as stored; Null without dives

@@ -28,11 +28,6 @@ std::string fateOf(const PlannedDive& dive) {
   return text;
 }
 
-std::string changeText(const Change& change) {
-  return "    " + change.column + ": '" + shown(change.from) + "' became '" + shown(change.to) +
-         "', " + change.why + "\n";
-}
-
 std::string summaryOf(const ImportPlan& plan) {
   const auto counts = plan.counts();
   return "Dives taken: " + std::to_string(counts.taken) +
@@ -43,16 +38,24 @@ std::string summaryOf(const ImportPlan& plan) {
 
 }  // namespace
 
+std::string changeText(const Change& change) {
+  return change.column + ": '" + shown(change.from) + "' became '" + shown(change.to) + "', " +
+         change.why;
+}
+
+std::string reportText(const PlannedDive& dive) {
+  auto text = sourceOf(dive.source) + ": " + fateOf(dive) + "\n";
+  for (const auto& change : dive.source.changes) text += "    " + changeText(change) + "\n";
+  return text;
+}
+
 std::string reportText(const ImportPlan& plan) {
   auto text = summaryOf(plan);
   if (plan.takesCard()) text += "The diver's card is taken.\n";
   if (plan.takesEquipment() > 0)
     text += "Pieces of equipment taken: " + std::to_string(plan.takesEquipment()) + ".\n";
   for (const auto& note : plan.notes()) text += note + "\n";
-  for (const auto& dive : plan.dives()) {
-    text += sourceOf(dive.source) + ": " + fateOf(dive) + "\n";
-    for (const auto& change : dive.source.changes) text += changeText(change);
-  }
+  for (const auto& dive : plan.dives()) text += reportText(dive);
   return text;
 }
 

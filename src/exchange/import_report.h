@@ -11,4 +11,10 @@ namespace nautrel::exchange {
 /// it and what was changed. What a program wants to tell otherwise it reads from the plan.
 std::string reportText(const ImportPlan& plan);
 
+/// The lines of one dive.
+std::string reportText(const PlannedDive& dive);
+
+/// "Max depth: '150.64' became '150.6', ...".
+std::string changeText(const Change& change);
+
 }  // namespace nautrel::exchange

@@ -25,6 +25,12 @@ void Control::setVisible(bool visible) {
   if (!visible) form_.leaveIfUnfit(*this);
 }
 
+void Control::setHint(std::string hint) {
+  if (hint_ == hint) return;
+  hint_ = std::move(hint);
+  changed();
+}
+
 bool Control::shows() const {
   if (!visible_) return false;
   return container_ == nullptr || (container_->shows() && container_->showsPage(page_));

@@ -39,6 +39,11 @@ class Control {
   /// yet; on a page that is behind it does nothing.
   void SetFocus();
   bool hasFocus() const;
+
+  /// What a pointer that rests on it is told, and a screen reader: of a disabled control, why.
+  const std::string& hint() const { return hint_; }
+  void setHint(std::string hint);
+
   /// Asks for a repaint while a long operation runs; the look takes it in time slices.
   void Refresh();
 
@@ -70,6 +75,7 @@ class Control {
  private:
   Form& form_;
   std::string name_;
+  std::string hint_;
   const Control* container_ = nullptr;
   int page_ = 0;
   bool enabled_ = true;

@@ -2,6 +2,7 @@
 #include "platform/desktop.h"
 
 #include <algorithm>
+#include <exception>
 
 #include "platform/files.h"
 
@@ -79,6 +80,13 @@ void Desktop::setOwnFiles(const std::vector<std::string>& paths) {
   for (const auto& path : paths) ownFiles_.push_back(nativePath(path));
 }
 
+std::optional<std::string> Desktop::openFolder(const DialogRequest& request) {
+  openDoor(true);
+  auto answer = askFolder(request);
+  openDoor();
+  return answer;
+}
+
 std::optional<long> Desktop::chooseColor(long color) {
   openDoor(true);
   const auto answer = askColor(color);
@@ -102,6 +110,26 @@ void Desktop::SaveSetting(const std::string& section, const std::string& key,
                           const std::string& value) {
   openDoor();
   writeSetting(section, key, value);
+}
+
+bool Desktop::runLong(const std::string& what, const LongWork& work) {
+  openDoor(true);
+  bool stopped = false;
+  std::exception_ptr failure;
+  runApart(what, [&](const Progress& progress) {
+    const auto watched = [&](std::size_t done, std::size_t all) {
+      if (!progress(done, all)) stopped = true;
+      return !stopped;
+    };
+    try {
+      work(watched);
+    } catch (...) {
+      failure = std::current_exception();
+    }
+  });
+  openDoor();
+  if (failure && !stopped) std::rethrow_exception(failure);
+  return !stopped;
 }
 
 DateTime Desktop::now() {

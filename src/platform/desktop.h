@@ -40,6 +40,10 @@ struct DialogRequest {
   std::string ending = {};
 };
 
+/// Told how far a long work is; false asks it to stop.
+using Progress = std::function<bool(std::size_t done, std::size_t all)>;
+using LongWork = std::function<void(const Progress&)>;
+
 enum class ReportDestination { Preview = 0, Printer = 1 };
 
 /// One run of a report template.
@@ -73,11 +77,19 @@ class Desktop {
   /// The final name, its ending included. A file of the program's own, and one that plainly cannot
   /// be written, is never among the answers: it is refused in a box, and the dialog comes again.
   std::optional<std::string> saveFile(DialogRequest request);
+  /// A folder that is there; nothing if cancelled.
+  std::optional<std::string> openFolder(const DialogRequest& request);
   std::optional<long> chooseColor(long color);
   bool setUpPrinter();
 
   std::string GetSetting(const std::string& section, const std::string& key);
   void SaveSetting(const std::string& section, const std::string& key, const std::string& value);
+
+  /// Modal: does something long, apart from the screen, which stays alive and tells in a box what
+  /// is done and how far it is. `work` may be stopped there once it has asked its Progress; so it
+  /// touches no window. Raises what `work` raises. False if it was stopped; what it raised then is
+  /// passed over.
+  bool runLong(const std::string& what, const LongWork& work);
 
   DateTime now();
   const Locale& locale() { return currentLocale(); }
@@ -123,11 +135,14 @@ class Desktop {
   virtual std::optional<std::string> askFileToOpen(const DialogRequest& request) = 0;
   /// Asks nothing about overwriting; the door does so about the final name.
   virtual std::optional<std::string> askFileToSave(const DialogRequest& request) = 0;
+  virtual std::optional<std::string> askFolder(const DialogRequest& request) = 0;
   virtual std::optional<long> askColor(long color) = 0;
   virtual bool askPrinter() = 0;
   virtual std::string readSetting(const std::string& section, const std::string& key) = 0;
   virtual void writeSetting(const std::string& section, const std::string& key,
                             const std::string& value) = 0;
+  /// `work` raises nothing, and is done when this returns.
+  virtual void runApart(const std::string& what, const LongWork& work) = 0;
   virtual DateTime currentTime() = 0;
   virtual const Locale& currentLocale() = 0;
   virtual Picture readPicture(const std::string& path) = 0;

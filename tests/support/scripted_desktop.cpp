@@ -111,6 +111,16 @@ std::optional<std::string> ScriptedDesktop::askFileToSave(const DialogRequest& r
   return next(files_, request.title, {{}, folder_ + "/file"});
 }
 
+std::optional<std::string> ScriptedDesktop::askFolder(const DialogRequest& request) {
+  dialogs.push_back(request);
+  return next(files_, request.title, {{}, folder_});
+}
+
+void ScriptedDesktop::runApart(const std::string& what, const LongWork& work) {
+  works.push_back(what);
+  work(working ? working : [](std::size_t, std::size_t) { return true; });
+}
+
 std::optional<long> ScriptedDesktop::askColor(long) {
   return next(colors_, "a colour", {{}, 0xFF, 0x800000});
 }

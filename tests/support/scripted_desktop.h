@@ -59,6 +59,9 @@ class ScriptedDesktop : public Desktop {
   std::vector<std::string> popups;  // the control that each context menu dropped from, by its name
   std::vector<std::string> inputPrompts;  // "title: prompt"
   int charts = 0;
+  std::vector<std::string> works;  // what was done as long work
+  /// What the long work to come is told; without it, to go on.
+  Progress working;
   /// Called while a box is open.
   std::function<void()> whileBoxIsOpen;
   /// A number below the given one. With it, whatever no answer is laid out for is answered by
@@ -79,6 +82,8 @@ class ScriptedDesktop : public Desktop {
   std::string askText(const std::string& prompt, const std::string& title) override;
   std::optional<std::string> askFileToOpen(const DialogRequest& request) override;
   std::optional<std::string> askFileToSave(const DialogRequest& request) override;
+  std::optional<std::string> askFolder(const DialogRequest& request) override;
+  void runApart(const std::string& what, const LongWork& work) override;
   std::optional<long> askColor(long color) override;
   bool askPrinter() override;
   std::string readSetting(const std::string& section, const std::string& key) override;

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include "look/convert.h"
 #include "platform/form.h"
 
 namespace nautrel {
@@ -25,6 +26,11 @@ void Binding::push() {
     widget_->setEnabled(control_.enabled());
   if (widget_->isVisibleTo(widget_->parentWidget()) != control_.visible())
     widget_->setVisible(control_.visible());
+  if (const auto hint = toQt(control_.hint()); hint != hint_) {
+    hint_ = hint;
+    widget_->setToolTip(hint);
+    widget_->setAccessibleDescription(hint);
+  }
   pushContent();
 }
 

@@ -43,6 +43,7 @@ class Binding : public QObject {
 
   Control& control_;
   QPointer<QWidget> widget_;
+  QString hint_;
   bool dirty_ = true;
 };
 

@@ -21,6 +21,7 @@
 #include "look/frame/window_place.h"
 #include "look/pictures/image_picture.h"
 #include "look/reports/printing.h"
+#include "look/system/long_work.h"
 #include "look/system/message_box.h"
 #include "look/system/settings_text.h"
 #include "look/system/system_locale.h"
@@ -92,6 +93,17 @@ std::optional<std::string> QtDesktop::askFileToSave(const DialogRequest& request
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   return chosenIn(dialog);
+}
+
+std::optional<std::string> QtDesktop::askFolder(const DialogRequest& request) {
+  QFileDialog dialog(parentWindow(), toQt(request.title));
+  dialog.setFileMode(QFileDialog::Directory);
+  dialog.setOption(QFileDialog::ShowDirsOnly);
+  return chosenIn(dialog);
+}
+
+void QtDesktop::runApart(const std::string& what, const LongWork& work) {
+  doLongWork(parentWindow(), toQt(what), work);
 }
 
 std::optional<long> QtDesktop::askColor(long color) {

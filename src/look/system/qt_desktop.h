@@ -27,6 +27,8 @@ class QtDesktop : public Desktop {
   std::string askText(const std::string& prompt, const std::string& title) override;
   std::optional<std::string> askFileToOpen(const DialogRequest& request) override;
   std::optional<std::string> askFileToSave(const DialogRequest& request) override;
+  std::optional<std::string> askFolder(const DialogRequest& request) override;
+  void runApart(const std::string& what, const LongWork& work) override;
   std::optional<long> askColor(long color) override;
   bool askPrinter() override;
   std::string readSetting(const std::string& section, const std::string& key) override;
