@@ -84,7 +84,7 @@ void Form7::Command1_Click() {
 // The report reads the stored card, not the boxes.
 void Form7::Command3_Click() {
   if (MsgBox("Print now?", kAskNo, "Print personal information") != kYes) return;
-  CrystalReport1.setDestination(1);
+  CrystalReport1.setDestination(Report::kPrinter);
   CrystalReport1.Action(1);
 }
 

@@ -194,7 +194,7 @@ void Form6::Command1_Click() {
 void Form6::Command2_Click() {
   Datenbank();
   if (MsgBox("Print now?", kAskNo, "Print statistic") != kYes) return;
-  CrystalReport1.setDestination(1);
+  CrystalReport1.setDestination(Report::kPrinter);
   CrystalReport1.Action(1);
 }
 

@@ -70,7 +70,6 @@ class Form {
   const std::vector<Control*>& controls() const { return controls_; }
   Control* control(std::string_view name) const;
   Control* activeControl() const { return active_; }
-  const std::vector<Control*>& tabOrder() const { return tabOrder_; }
   Button* defaultButton() const { return default_; }
 
   /// Whether Enter belongs to the box that has the focus: no default button takes it there.

@@ -5,6 +5,7 @@
 
 #include "printing/selection_formula.h"
 #include "store/contract.h"
+#include "store/program_files.h"
 #include "support/logbook.h"
 
 namespace nautrel {
@@ -32,6 +33,15 @@ TEST(Selection, RefusesWhatItCannotRead) {
        {"Nr in 3 to 9", "ToNumber ({Nr}) in 3 to 9", "ToNumber ({Logbuch.Nr}) in 3",
         "ToNumber ({Logbuch.Nr}) in a to 9", "ToNumber ({Logbuch.Nr}) in 3 to 9 or 1", " "})
     EXPECT_THROW(SelectionFormula(formula, Locale()), ReportFault) << formula;
+}
+
+TEST(Templates, NoDialogMayWriteOverOne) {
+  const auto folder = std::filesystem::path("/diver");
+  const auto guarded = programFiles((folder / "Logbuch.mdb").string());
+  for (const auto& report : std::filesystem::directory_iterator(NAUTREL_REPORTS)) {
+    const auto file = (folder / report.path().filename()).string();
+    EXPECT_NE(std::find(guarded.begin(), guarded.end(), file), guarded.end()) << file;
+  }
 }
 
 class Reports : public LogbookTest {
