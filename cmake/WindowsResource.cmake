@@ -16,8 +16,11 @@ function(add_windows_resource target description)
   foreach(size 16 24 32 48 64 128 256)
     list(APPEND pictures ${assets}/icons/nautrel_${size}.png)
   endforeach()
-  add_custom_command(OUTPUT ${ICON} COMMAND ${ICOTOOL} -c -o ${ICON} ${pictures}
-                     DEPENDS ${pictures} COMMENT "Packing the icon" VERBATIM)
+  get_source_file_property(packed ${ICON} GENERATED)
+  if(NOT packed)
+    add_custom_command(OUTPUT ${ICON} COMMAND ${ICOTOOL} -c -o ${ICON} ${pictures}
+                       DEPENDS ${pictures} COMMENT "Packing the icon" VERBATIM)
+  endif()
   set(MANIFEST ${windows}/nautrel.manifest)
   set(NAME ${target})
   set(DESCRIPTION ${description})

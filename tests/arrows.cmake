@@ -19,10 +19,11 @@ set(exchange_knows ${store_knows} store data)
 set(companion_knows ${exchange_knows} exchange)
 set(tools_knows ${store_knows} store)
 # The look paints controls. Besides it knows the program that it shows and the windows that it
-# frames by a class of their own, the companion and its window likewise, the lock that it asks
-# before, and what a report is made of.
-set(look_knows platform data/grid.h store/lock.h shell/Form1.h shell/placing.h app/MDIForm1.h
-               app/Nautrel.h companion/Companion.h companion/ExchangeForm.h printing/column_widths.h printing/make_report.h
+# frames by a class of their own, the companion and its window likewise, the folder and the lock
+# that it sees to before, and what a report is made of.
+set(look_knows platform data/grid.h store/divers_folder.h store/lock.h shell/Form1.h
+               shell/placing.h app/MDIForm1.h app/Nautrel.h companion/Companion.h
+               companion/ExchangeForm.h printing/column_widths.h printing/make_report.h
                printing/report_document.h printing/report_fault.h)
 set(main_knows look/application.h)
 set(exchange_main_knows exchange)

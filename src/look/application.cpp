@@ -10,6 +10,7 @@
 #include "look/pictures/icons.h"
 #include "look/system/message_box.h"
 #include "look/system/qt_desktop.h"
+#include "store/divers_folder.h"
 #include "store/lock.h"
 
 // A static library's pictures come in only if they are asked for, and only from outside of any
@@ -34,9 +35,9 @@ int showFailure(const RunTimeError& failure) {
   return kStatusAfterFailure;
 }
 
-int refuse() {
-  showMessageBox(nullptr, toQt(kLogbookInUse), kExclamation, QString::fromUtf8(kApplicationTitle));
-  return 0;
+int refuse(std::string_view why, int status) {
+  showMessageBox(nullptr, toQt(why), kExclamation, QString::fromUtf8(kApplicationTitle));
+  return status;
 }
 
 }  // namespace
@@ -53,8 +54,11 @@ int runApplication(int argc, char** argv) {
 
   QtDesktop desktop;
   auto nautrel = std::make_unique<Nautrel>(desktop);
+  const auto folder = desktop.applicationPath();
+  if (const auto why = makeMissingLogbook(folder); !why.empty()) return refuse(why, 1);
   const LogbookLock lock(nautrel->databasePath());
-  if (lock.isInUse()) return refuse();
+  if (lock.isInUse()) return refuse(kLogbookInUse, 0);
+  renewTexts(folder);
   QtLooks looks(*nautrel);
   desktop.setLooks(&looks);
   nautrel->setLooks(&looks);

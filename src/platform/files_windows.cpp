@@ -16,10 +16,18 @@ bool opens(const std::filesystem::path& path, DWORD access, DWORD flags) {
   return true;
 }
 
+/// The system drops dots and blanks at the end of a name.
+std::wstring asOpened(const std::filesystem::path& name) {
+  auto text = name.native();
+  text.erase(text.find_last_not_of(L". ") + 1);
+  return text;
+}
+
 }  // namespace
 
 bool sameName(const std::filesystem::path& one, const std::filesystem::path& other) {
-  return CompareStringOrdinal(one.c_str(), -1, other.c_str(), -1, TRUE) == CSTR_EQUAL;
+  return CompareStringOrdinal(asOpened(one).c_str(), -1, asOpened(other).c_str(), -1, TRUE) ==
+         CSTR_EQUAL;
 }
 
 bool mayWrite(const std::filesystem::path& file) {

@@ -15,7 +15,8 @@ std::vector<std::string> programFiles(const std::string& logbook) {
                               "nautrel-exchange-window.exe", "Logbuch.lock"})
     files.push_back(utf8(folder / program));
   for (const char* text : {"Liste.rpt", "Statistik.rpt", "Benutzer.rpt", "nautrel.rtf"})
-    for (const auto& where : {folder, folder / ".delivered"}) files.push_back(utf8(where / text));
+    for (const auto& where : {folder, folder / ".delivered", folder / ".delivered/new"})
+      files.push_back(utf8(where / text));
   if (auto lock = LogbookLock::fileFor(logbook); !lock.empty()) files.push_back(std::move(lock));
   for (const auto side : kSideFiles)
     for (auto where : {path, followLinks(path)}) files.push_back(utf8(where += side));

@@ -46,17 +46,21 @@ class SaveDialog : public LogbookTest {
 TEST_F(SaveDialog, NeverHandsBackAFileOfTheProgramsOwn) {
   const auto logbook = folder.file("Logbuch.mdb");
   fs::create_hard_link(logbook, elsewhere.file("hard.txt"));
-  fs::create_symlink(logbook, elsewhere.file("soft.txt"));
-  fs::create_symlink("soft.txt", elsewhere.file("softer.txt"));
-  fs::create_symlink(folder.file("Statistik.rpt"), elsewhere.file("not yet.txt"));
-  fs::create_directory_symlink(folder.path(), elsewhere.file("folder"));
   Texts names = {elsewhere.file("hard.txt"),
-                 elsewhere.file("softer.txt"),
-                 elsewhere.file("not yet.txt"),
-                 elsewhere.file("folder/Logbuch.mdb"),
-                 elsewhere.file("folder/Logbuch.mdb-wal"),
                  elsewhere.file("../" + fs::path(folder.path()).filename().string() + "/Liste.rpt"),
                  fs::relative(logbook).string()};
+  if (kOnWindows) {
+    for (const char* own : {"LOGBUCH.MDB", "liste.RPT", "Logbuch.mdb.", "Logbuch.mdb-wal. ."})
+      names.push_back(folder.file(own));
+  } else {
+    fs::create_symlink(logbook, elsewhere.file("soft.txt"));
+    fs::create_symlink("soft.txt", elsewhere.file("softer.txt"));
+    fs::create_symlink(folder.file("Statistik.rpt"), elsewhere.file("not yet.txt"));
+    fs::create_directory_symlink(folder.path(), elsewhere.file("folder"));
+    for (const char* own :
+         {"softer.txt", "not yet.txt", "folder/Logbuch.mdb", "folder/Logbuch.mdb-wal"})
+      names.push_back(elsewhere.file(own));
+  }
   for (const char* own :
        {"Logbuch.mdb", "Logbuch.mdb-wal", "Logbuch.mdb-shm", "Logbuch.mdb-journal", "Logbuch.lock",
         "Liste.rpt", "Statistik.rpt", "Benutzer.rpt", "nautrel.rtf", "nautrel", "nautrel-exchange"})
@@ -71,6 +75,7 @@ TEST_F(SaveDialog, NeverHandsBackAFileOfTheProgramsOwn) {
 
 // A logbook that is itself a link has its side files where it leads.
 TEST_F(SaveDialog, KnowsTheSideFilesOfALinkedLogbook) {
+  NOT_ON_WINDOWS(kNoLinks);
   fs::rename(folder.file("Logbuch.mdb"), elsewhere.file("dives.mdb"));
   fs::create_symlink(elsewhere.file("dives.mdb"), folder.file("Logbuch.mdb"));
   restart();
@@ -80,17 +85,19 @@ TEST_F(SaveDialog, KnowsTheSideFilesOfALinkedLogbook) {
 }
 
 TEST_F(SaveDialog, RefusesWhatCannotBeWritten) {
+  folder.write("list.txt", "");
+  for (const auto& name : {folder.path(), folder.file(""), folder.file("no such folder/list.txt"),
+                           folder.file("list.txt/list.txt"), elsewhere.file(std::string(300, 'x'))})
+    EXPECT_EQ(refusal(name), cannot(name));
+  NOT_ON_WINDOWS(kNoLinks);
   fs::create_symlink("round.txt", elsewhere.file("round.txt"));
   fs::create_symlink("gone/list.txt", elsewhere.file("into nothing.txt"));
-  folder.write("list.txt", "");
-  for (const auto& name :
-       {folder.path(), folder.file(""), folder.file("no such folder/list.txt"),
-        folder.file("list.txt/list.txt"), elsewhere.file("round.txt"),
-        elsewhere.file("into nothing.txt"), elsewhere.file(std::string(300, 'x'))})
+  for (const auto& name : {elsewhere.file("round.txt"), elsewhere.file("into nothing.txt")})
     EXPECT_EQ(refusal(name), cannot(name));
 }
 
 TEST_F(SaveDialog, RefusesWhatThePersonMayNotWrite) {
+  NOT_ON_WINDOWS(kNoModes);
   const auto file = folder.write("list.txt", "kept");
   fs::create_directory(folder.file("closed"));
   fs::permissions(file, fs::perms::owner_read);
@@ -117,7 +124,7 @@ TEST_F(SaveDialog, ChecksAndAsksAboutTheFinalName) {
   EXPECT_EQ(desktop->messages(), (std::vector<Shown>{question, question}));
   EXPECT_EQ(choose(there), there);
 
-  fs::create_symlink(folder.file("Logbuch.mdb"), folder.file("own.pdf"));
+  fs::create_hard_link(folder.file("Logbuch.mdb"), folder.file("own.pdf"));
   desktop->answerFile(folder.file("own")).answerFile({});
   EXPECT_EQ(desktop->saveFile(pdf), std::nullopt);
   EXPECT_EQ(desktop->texts(), Texts{belongs(folder.file("own.pdf"))});
@@ -126,7 +133,7 @@ TEST_F(SaveDialog, ChecksAndAsksAboutTheFinalName) {
 TEST_F(SaveDialog, KeepsTheLogbookFromThePrintedList) {
   click(app->MDIForm1().Menü1a);
   const auto before = readFile(folder.file("Logbuch.mdb"));
-  fs::create_symlink("Logbuch.mdb", folder.file("list.txt"));
+  fs::create_hard_link(folder.file("Logbuch.mdb"), folder.file("list.txt"));
   desktop->answerFile(folder.file("list.txt")).answerFile({});
   click(app->Form9().Command3);
   EXPECT_EQ(desktop->texts(), Texts{belongs(folder.file("list.txt"))});

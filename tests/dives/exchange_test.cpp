@@ -10,6 +10,7 @@
 #include "store/delivered.h"
 #include "support/logbook.h"
 #include "support/repaints.h"
+#include "support/windows.h"
 
 namespace nautrel {
 namespace {
@@ -24,6 +25,7 @@ class ExchangedFile : public LogbookTest, public ::testing::WithParamInterface<b
   static int failure() { return removed() ? DatabaseNotFound : CannotOpenFile; }
 
   void SetUp() override {
+    NOT_ON_WINDOWS(kFileIsHeld);
     addItem("Lamp");
     add(someDive(7));
     fs::rename(path, other);

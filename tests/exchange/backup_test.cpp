@@ -54,7 +54,7 @@ TEST(Backup, DeletesOnlyEarlierBackups) {
                         "Logbuch.mdb",
                         "Logbuch-2026-11-19-120000.mdb.newer"};
   for (const auto& name : others) it.backups.write(name, "mine");
-  fs::create_symlink(it.path, it.backups.file("Logbuch-2026-11-18-120000.mdb"));
+  if (!kOnWindows) fs::create_symlink(it.path, it.backups.file("Logbuch-2026-11-18-120000.mdb"));
   fs::create_directory(it.backups.file("Logbuch-2026-11-17-120000.mdb"));
   const auto before = it.kept();
   for (const char* name : {"Logbuch-2026-11-19-120000.mdb", "Logbuch-2026-11-20-120000.mdb",
@@ -74,7 +74,7 @@ TEST(Backup, RefusesWithoutDeletingAnything) {
   EXPECT_PRED_FORMAT2(IsSubstring, "no folder",
                       refusal([&] { backUpLogbook(it.path, it.copy, 1, kNow); }));
   fs::permissions(it.backups.path(), fs::perms(0555));
-  {
+  if (!kOnWindows) {
     const PlainUser diver;
     EXPECT_PRED_FORMAT2(IsSubstring, "Nothing can be written into", refusal([&] { it.backUp(1); }));
   }

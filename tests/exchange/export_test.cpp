@@ -9,6 +9,7 @@
 
 #include "exchange/csv_writer.h"
 #include "exchange_test.h"
+#include "support/windows.h"
 
 namespace nautrel::exchange {
 namespace {
@@ -58,7 +59,10 @@ TEST(Export, WritesOverNothingThatIsNotToBeReplaced) {
   const auto own = book.folder.write("Liste.rpt", "a template");
   const auto there = book.folder.write("old.csv", "old");
   const auto link = book.folder.file("link.csv");
-  std::filesystem::create_symlink(book.path, link);
+  if (kOnWindows)
+    std::filesystem::create_hard_link(book.path, link);
+  else
+    std::filesystem::create_symlink(book.path, link);
   const auto refusedAt = [&](const std::string& target) {
     ExportOptions options{.format = Format::Csv, .overwrite = target != there};
     return refusal([&] { exportLogbook(book.workspace, book.path, target, options, {}); });

@@ -251,7 +251,9 @@ TEST_F(ListFile, AsksForAFileAndReplacesItUnaskedUnlessCancelled) {
 
 TEST_F(ListFile, SaysSavedWhateverBecameOfTheFile) {
   auto& form = openWith(1, 1);
-  EXPECT_EQ(save(form, unwritable(folder.file("socket"))), "");
+  if (!kOnWindows) {
+    EXPECT_EQ(save(form, unwritable(folder.file("socket"))), "");
+  }
   std::filesystem::remove(folder.file("Logbuch.mdb"));
   EXPECT_EQ(save(form), head("3/5/2001 2:07:09 PM"));
 }

@@ -2,6 +2,7 @@
 #include <functional>
 
 #include "store/store_test.h"
+#include "support/windows.h"
 
 namespace nautrel {
 namespace {
@@ -12,7 +13,8 @@ namespace fs = std::filesystem;
 /// or none does. Both stay byte for byte what they were.
 class ExchangeTest : public StoreTest, public testing::WithParamInterface<bool> {
  protected:
-  ExchangeTest() {
+  void SetUp() override {
+    NOT_ON_WINDOWS(kFileIsHeld);
     addDives(1, 3);
     fs::copy_file(path, other);
     OtherProgram(other).run("UPDATE Logbuch SET Nr = 77");

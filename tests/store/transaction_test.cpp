@@ -2,6 +2,7 @@
 #include "store/transaction.h"
 
 #include "store/store_test.h"
+#include "support/windows.h"
 
 #if __has_include(<sys/wait.h>)
 #include <sys/resource.h>
@@ -82,6 +83,7 @@ TEST_F(TransactionTest, BeginsOnlyWhereItMayWrite) {
 }
 
 TEST_F(TransactionTest, AFileExchangedMeanwhileGetsNothing) {
+  NOT_ON_WINDOWS(kFileIsHeld);
   const auto aside = home.file("aside.mdb");
   const auto other = home.file("other.mdb");
   fs::copy_file(path, other);

@@ -5,9 +5,9 @@
 
 #include <string>
 
-#ifdef _WIN32
-#include <filesystem>
-#else
+#include "support/windows.h"
+
+#ifndef _WIN32
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -17,7 +17,6 @@ namespace nautrel {
 #ifdef _WIN32
 
 inline std::string unwritable(const std::string& path) {
-  std::filesystem::create_directory(std::filesystem::u8path(path));
   return path;
 }
 

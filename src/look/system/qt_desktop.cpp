@@ -60,8 +60,7 @@ std::optional<std::string> chosenIn(QFileDialog& dialog) {
 
 QtDesktop::QtDesktop()
     : locale_(localeOf(QLocale())),
-      settings_(QSettings::NativeFormat, QSettings::UserScope,
-                QString::fromUtf8(kApplicationTitle)),
+      settings_(settingsPlace(), QSettings::NativeFormat),
       pictures_(largestScreen()) {}
 
 QWidget* QtDesktop::parentWindow() const {

@@ -5,6 +5,8 @@
 #include <QSettings>
 #include <QStringList>
 
+#include "platform/desktop.h"
+
 namespace nautrel {
 namespace {
 
@@ -42,6 +44,14 @@ QString lineText(const QString& path, const QString& section, const QString& key
 }
 
 }  // namespace
+
+// For the registry the toolkit would put a key of its own between the application's and the
+// sections.
+QString settingsPlace() {
+  const QSettings users(QSettings::NativeFormat, QSettings::UserScope,
+                        QString::fromUtf8(kApplicationTitle));
+  return users.fileName().remove(QStringLiteral("\\OrganizationDefaults"));
+}
 
 QString settingText(const QSettings& settings, const QString& section, const QString& key) {
   const auto value = settings.value(section + '/' + key);

@@ -7,6 +7,9 @@ class QSettings;
 
 namespace nautrel {
 
+/// The user's file of settings, or key of the registry, in which the sections stand.
+QString settingsPlace();
+
 /// The text of a setting, as it stands in the file: one that was written by hand with a comma in it
 /// is a list to the toolkit, which does not tell what stood around the comma. Empty if there is
 /// none.
