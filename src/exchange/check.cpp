@@ -133,7 +133,7 @@ std::vector<Finding> checkFile(const std::string& path) {
     for (const auto& line : damageOf(path))
       findings.push_back({About::File, 0, "The file is damaged: " + line});
     if (!findings.empty()) return findings;
-    Workspace workspace;
+    Workspace workspace(Workspace::Use::Look);
     auto database = workspace.OpenDatabase(path);
     for (const auto& table : logbookTables()) checkTable(database, table, findings);
   } catch (const RunTimeError& failure) {
@@ -146,7 +146,7 @@ std::vector<Finding> checkLogbook(const std::string& path, const Locale& locale)
   auto findings = checkFile(path);
   if (!findings.empty()) return findings;
   try {
-    Workspace workspace;
+    Workspace workspace(Workspace::Use::Look);
     DiveCheck dives(path, locale, findings);
     for (auto rows = workspace.OpenDatabase(path).OpenRecordset(Tabelle::Logbuch); !rows.Eof();
          rows.MoveNext())

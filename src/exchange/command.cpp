@@ -73,7 +73,7 @@ class Command {
     if (!request_.dryRun) hold.emplace(logbook_);
     const auto source = openSource(request_.file, request_.format);
     requireAnswers(*source);
-    Workspace workspace;
+    Workspace workspace(request_.dryRun ? Workspace::Use::Look : Workspace::Use::Write);
     auto plan = ImportPlan::make(*source, request_.answers, workspace, logbook_, place_.locale,
                                  {.card = request_.card, .equipment = true});
     for (const int line : request_.insist) insist(plan, line);
@@ -107,7 +107,7 @@ class Command {
                                 .card = !request_.withoutCard,
                                 .equipment = !request_.withoutEquipment,
                                 .overwrite = request_.force};
-    Workspace workspace;
+    Workspace workspace(Workspace::Use::Look);
     const auto report = exportLogbook(workspace, logbook_, request_.file, options, place_.locale);
     return answerOf(report, request_.file, options);
   }

@@ -57,7 +57,8 @@ void addExport(CLI::App& app, Request& request) {
   command.add_option("FILE", request.file, "UDDF or CSV")->required();
   for (const auto& [name, number] : {std::pair{"--from", &request.from}, {"--to", &request.to}})
     command.add_option(name, *number, "only dives with numbers " + std::string(name + 2) + " N")
-        ->option_text("N");
+        ->option_text("N")
+        ->check(CLI::Range(1, kMost));
   command.add_flag("--without-card", request.withoutCard, "Leave the diver's card out");
   command.add_flag("--without-equipment", request.withoutEquipment, "Leave the equipment out");
   command.add_flag("--force", request.force, "Replace a file that is there");

@@ -95,6 +95,8 @@ ExportReport exportLogbook(Workspace& workspace, const std::string& logbook,
                            const Locale& locale, const Progress& progress) {
   OutputFile file(target, programFiles(logbook), options.overwrite);
   const auto content = readLogbook(workspace, logbook, options);
+  if (content.dives.empty() && (options.from || options.to))
+    throw Refused{"The logbook holds no dive with such a number."};
   ExportReport report{.dives = static_cast<int>(content.dives.size())};
   if (options.format == Format::Csv) {
     writeCsv(file, content, locale, progress);

@@ -161,6 +161,10 @@ Restored restoreLogbook(const std::string& logbook, const std::string& copy, Loc
   if (sameFile(nativePath(copy), present)) throw Refused{"'" + copy + "' is the logbook itself."};
   if (!mayMakeFileIn(present.parent_path()))
     throw Refused{"Nothing can be written into '" + utf8(present.parent_path()) + "'."};
+  std::error_code failed;
+  const auto status = fs::status(nativePath(copy), failed);
+  if (fs::exists(status) && !fs::is_regular_file(status))
+    throw Refused{"'" + copy + "' is no file, so no logbook that can be put back."};
   const Cleared cleared(present);
   const DraftFile draft(utf8(present));
   prepare(copy, nativePath(draft.path()), present);

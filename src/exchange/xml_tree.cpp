@@ -7,7 +7,6 @@ namespace nautrel::exchange {
 namespace {
 
 constexpr std::size_t kMostElements = 100'000;
-constexpr std::size_t kMostOfAll = 2'000'000;
 constexpr std::string_view kParagraph = "para";
 
 /// Those by which elements are found or understood.
@@ -56,7 +55,7 @@ std::string_view XmlElement::textOf(std::string_view wanted) const {
 void XmlCollector::begin(std::string_view name, const XmlAttributes& attributes, int line) {
   if (open_.empty()) count_ = 0;
   const bool counts = name != kParagraph;
-  if (counts && (++count_ > kMostElements || ++countOfAll_ > kMostOfAll))
+  if (counts && (++count_ > kMostElements || ++countOfAll_ > mostOfAll_))
     throw Refused{"Too many elements, up to line " + std::to_string(line) + "."};
   auto& element = open_.emplace_back();
   element.name = name;

@@ -43,6 +43,8 @@ struct XmlElement {
 /// Refuses one with more elements than any needs, and more in all than any logbook has.
 class XmlCollector {
  public:
+  explicit XmlCollector(std::size_t mostOfAll = 2'000'000) : mostOfAll_(mostOfAll) {}
+
   bool isOpen() const { return !open_.empty(); }
   /// How many elements are open, itself included.
   std::size_t depth() const { return open_.size(); }
@@ -58,6 +60,7 @@ class XmlCollector {
   std::vector<XmlElement> open_;
   std::size_t count_ = 0;
   std::size_t countOfAll_ = 0;
+  std::size_t mostOfAll_;
 };
 
 }  // namespace nautrel::exchange

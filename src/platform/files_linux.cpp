@@ -45,8 +45,11 @@ void takeRights(const std::filesystem::path& from, const std::filesystem::path& 
   struct stat rights {};
   if (stat(from.c_str(), &rights) != 0) return;
   const bool owned = chown(file.c_str(), rights.st_uid, rights.st_gid) == 0;
-  constexpr mode_t kOwner = S_IRWXU;
-  chmod(file.c_str(), rights.st_mode & (owned ? ACCESSPERMS : kOwner));
+  mode_t mode = rights.st_mode & ACCESSPERMS;
+  // It belongs to another now: to the one who has just written it, and to a group of his.
+  if (const mode_t others = mode & S_IRWXO; !owned)
+    mode = S_IRUSR | S_IWUSR | (others << 3) | others;
+  chmod(file.c_str(), mode);
 }
 
 }  // namespace nautrel

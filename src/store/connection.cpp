@@ -143,15 +143,22 @@ void Connection::open(const std::string& name, int flags) {
   handle_.reset(opened);
   if (code != SQLITE_OK) raiseFailure(code);
   sqlite3_busy_timeout(opened, kWaitForOthers);
-  if (sparesLog_) sqlite3_db_config(opened, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+  // Of a file that cannot be read it would drop the log.
+  spareLog(true);
   // A column that is gone would else be read as a text that holds its name.
   sqlite3_db_config(opened, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   // Reads the file for the first time, and so finds out whether it is a database.
   Statement(*this, "PRAGMA synchronous = NORMAL").run();
+  spareLog(sparesLog_);
+}
+
+void Connection::spareLog(bool yes) const {
+  sqlite3_db_config(handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, yes ? 1 : 0, nullptr);
 }
 
 void Connection::raiseFailure(int code) const {
   const auto number = failureFor(code);
+  if (number == UnrecognizedFormat) spareLog(true);
   if (number == InternalError) raiseBecause(number, sqlite3_errmsg(handle()));
   raise(number, path_);
 }

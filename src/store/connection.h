@@ -28,8 +28,8 @@ class Connection : public std::enable_shared_from_this<Connection> {
   /// Only looks, also where nothing can be written: then the file must be one that nobody has open.
   /// A log that waits stays as it is.
   static Connection toRead(std::string path);
-  /// Leaves the log alone when it closes. The engine would drop what it cannot read of a log, and
-  /// the whole log of a file that is damaged.
+  /// Leaves the log alone when it closes, as every connection does that finds the file damaged: the
+  /// engine would drop what it cannot read of a log, and the whole log of such a file.
   static Connection sparingLog(std::string path);
 
   /// Makes the file if it is not there.
@@ -64,6 +64,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
 
   explicit Connection(std::string path);
   void open(const std::string& name, int flags);
+  void spareLog(bool yes) const;
   bool moved() const;
   sqlite3_file* log() const;
   void syncLog();

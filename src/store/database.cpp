@@ -10,13 +10,15 @@
 
 namespace nautrel {
 
-Workspace::Workspace() : unsettled_(std::make_shared<std::vector<std::shared_ptr<Connection>>>()) {}
+Workspace::Workspace(Use use)
+    : unsettled_(std::make_shared<std::vector<std::shared_ptr<Connection>>>()), use_(use) {}
 
 Workspace::~Workspace() = default;
 
 /// A change that waits in the log of a file which is no longer there must not be taken for one of
 /// the file that is.
 Database Workspace::OpenDatabase(const std::string& path) {
+  if (use_ == Use::Look) return Database(std::make_shared<Connection>(Connection::toRead(path)));
   for (const auto& connection : *unsettled_)
     if (connection->path() == path) connection->requireSameFile();
   return Database(std::make_shared<Connection>(path, unsettled_));

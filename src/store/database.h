@@ -20,7 +20,11 @@ class Recordset;
 /// was written since the last settle().
 class Workspace {
  public:
-  Workspace();
+  /// Whether its databases are written to. One that only looks also reads where nothing can be
+  /// written: a file that nobody has open there.
+  enum class Use { Write, Look };
+
+  explicit Workspace(Use use = Use::Write);
   ~Workspace();
   Workspace(const Workspace&) = delete;
   Workspace& operator=(const Workspace&) = delete;
@@ -38,6 +42,7 @@ class Workspace {
 
  private:
   std::shared_ptr<std::vector<std::shared_ptr<Connection>>> unsettled_;
+  Use use_;
 };
 
 /// The columns that a pass needs, by name; none given means all of them. The ordinals stay those of

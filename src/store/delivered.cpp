@@ -72,6 +72,10 @@ bool createDeliveredLogbook(const std::string& path) {
   if (target.has_parent_path() && !fs::is_directory(target.parent_path(), failed))
     raise(PathNotValid, path);
 
+  for (const char* side : {"-wal", "-journal"})
+    if (auto log = target; fs::file_size(log += side, failed) > 0 && !failed)
+      raise(CannotOpenFile, path + side);
+
   const DraftFile draft(path);
   fill(Connection::create(draft.path()));
   return place(draft.path(), path);

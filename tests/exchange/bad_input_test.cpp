@@ -4,6 +4,7 @@
 #include <random>
 
 #include "exchange/csv_writer.h"
+#include "exchange/xml_tree.h"
 #include "exchange_test.h"
 
 namespace nautrel::exchange {
@@ -133,6 +134,20 @@ TEST(BadInput, NeedsAFile) {
   const auto large = book.folder.write("large", "");
   std::filesystem::resize_file(large, (256U << 20) + 1);
   EXPECT_NE(sentence(large).find("is larger than 256 MB."), std::string::npos);
+}
+
+/// Of elements that each are small enough there may be no end either.
+TEST(BadInput, HasNoMoreElementsThanAnyLogbook) {
+  constexpr const char* kNone = nullptr;
+  XmlCollector collector(5);
+  const auto dive = [&] {
+    for (const char* name : {"dive", "a", "para"}) collector.begin(name, XmlAttributes(&kNone), 7);
+    while (!collector.end()) {
+    }
+  };
+  dive();
+  dive();
+  EXPECT_EQ(refusal(dive), "Too many elements, up to line 7.");
 }
 
 /// A comment without end would be looked at again with every block.

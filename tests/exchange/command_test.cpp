@@ -10,6 +10,7 @@
 #include "exchange/json.h"
 #include "restore_test.h"
 #include "store/lock.h"
+#include "support/unwritable.h"
 #if __has_include(<sys/ptrace.h>)
 #include "each_call.h"
 #endif
@@ -62,8 +63,9 @@ TEST(Command, TellsHowItIsUsed) {
   for (const char* line :
        {"", "dive", "import", "export", "backup", "restore", "check now", "import a.csv b.csv",
         "import a.csv --dates ymd", "import a.csv --insist first", "import a.csv --keep 1",
-        "export a.csv --from x", "export a.csv --from 3 --to 2", "export a.txt2",
-        "export a --format xls", "backup . --keep 0", "check --loud"}) {
+        "export a.csv --from x", "export a.csv --from -1", "export a.csv --to 0",
+        "export a.csv --from 3 --to 2", "export a.txt2", "export a --format xls",
+        "backup . --keep 0", "check --loud"}) {
     SCOPED_TRACE(line);
     const auto said = shell.run(line);
     EXPECT_EQ(said.status, kWrongUse);
@@ -81,6 +83,9 @@ TEST(Command, TakesDivesOutAndInAgain) {
     EXPECT_PRED_FORMAT2(IsSubstring, "2 dives",
                         shell.run("export " + file + " --from 2 --to 3").out);
     EXPECT_EQ(shell.run("export " + file).status, kRefused);
+    EXPECT_PRED_FORMAT2(IsSubstring, "no dive with such a number",
+                        shell.run("export 0" + file + " --from 5").err);
+    EXPECT_FALSE(fs::exists(shell.folder.file("0" + file)));
     EXPECT_EQ(shell.run("export " + file + " --force").status, kDone);
     EXPECT_PRED_FORMAT2(IsSubstring, "Dives taken: 0", shell.run("import " + file).out);
     Shell other;
@@ -157,6 +162,27 @@ TEST(Command, OnlyWritingAsksForTheLock) {
   }
   for (const char* line : {"import a.uddf --dry-run", "export b.csv", "check", "backup ."})
     EXPECT_EQ(shell.run(line).status, kDone) << line;
+}
+
+/// As on a disc, or where another diver's logbook lies: nothing can be laid beside it.
+TEST(Command, LooksWhereNothingCanBeWritten) {
+  Shell shell;
+  shell.addDives(2);
+  const auto out = TemporaryFolder();
+  fs::permissions(out.path(), fs::perms::all);
+  fs::permissions(shell.said.path(), fs::perms::all);
+  const auto file = out.write("a.csv", "Date,Duration,Max depth [m]\n2001-03-04,40,18\n");
+  fs::permissions(shell.folder.path(), fs::perms(0555));
+  {
+    const PlainUser diver;
+    for (const auto& line : {std::string("check"), "export " + out.file("b.uddf"),
+                             "import --dry-run " + file, "backup " + out.path()}) {
+      const auto said = shell.run(line);
+      EXPECT_EQ(said.status, kDone) << line << ": " << said.err;
+    }
+    EXPECT_EQ(shell.run("import " + file).status, kRefused);
+  }
+  fs::permissions(shell.folder.path(), fs::perms::all);
 }
 
 TEST(Command, ChecksBacksUpAndRestores) {

@@ -84,8 +84,10 @@ TEST(Restore, RefusesWhatWouldCostTheLogbook) {
   EXPECT_PRED_FORMAT2(IsSubstring, "no logbook that can be put",
                       refusedFor(it.elsewhere.file("part.mdb")));
   for (const auto& copy : {it.elsewhere.file("none.mdb"), it.elsewhere.write("letter", "Dear"),
-                           it.elsewhere.path(), it.elsewhere.write("empty.mdb", "")})
+                           it.elsewhere.write("empty.mdb", "")})
     EXPECT_NE(failureOf([&] { restoreLogbook(it.path, copy, kNow); }), 0) << copy;
+  for (const auto& copy : {it.elsewhere.path(), unwritable(it.elsewhere.file("socket"))})
+    EXPECT_EQ(refusedFor(copy), "'" + copy + "' is no file, so no logbook that can be put back.");
   fs::remove(it.folder.file("Logbuch.lock"));
   EXPECT_EQ(it.names(), names);
   EXPECT_EQ(numbersIn(it.path), Restoring::kOld);
@@ -119,6 +121,7 @@ TEST(Restore, ReadsACopyThatCannotBeWrittenAndAnswersWhereItselfMayNotWrite) {
   const PlainUser diver;
   EXPECT_EQ(it.restore().kept, it.folder.file(kKept));
   EXPECT_EQ(numbersIn(it.path), Restoring::kNew);
+  EXPECT_EQ(fs::status(it.path).permissions(), fs::perms(0677)) << "its owner is another now";
 }
 
 }  // namespace

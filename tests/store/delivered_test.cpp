@@ -53,6 +53,12 @@ TEST_F(DeliveredTest, LeavesWhatIsThereAloneAndNothingElseBehind) {
   const auto letter = home.write("letter", "Dear diver");
   EXPECT_FALSE(createDeliveredLogbook(letter));
   EXPECT_EQ(readFile(letter), "Dear diver");
+  for (const char* side : {"-wal", "-journal"}) {
+    const auto alone = home.write("gone.mdb" + std::string(side), "what a new one would be given");
+    EXPECT_EQ(failureOf([&] { createDeliveredLogbook(home.file("gone.mdb")); }), CannotOpenFile);
+    EXPECT_FALSE(std::filesystem::exists(home.file("gone.mdb")));
+    std::filesystem::remove(alone);
+  }
 }
 
 }  // namespace

@@ -43,6 +43,30 @@ TEST_F(FaultsTest, AFileThatIsNoLogbookStaysAsItIs) {
   }
 }
 
+TEST_F(FaultsTest, TheLogOfADamagedFileStaysWithIt) {
+  addDives(1, 500);
+  const auto sound = readFile(path);
+  auto dives = table();
+  dives.AddNew();
+  dives.Update();
+  const auto log = readFile(path + "-wal");
+  ASSERT_FALSE(log.empty());
+  auto later = sound;
+  std::fill(later.begin() + 8192, later.end(), '\xA5');
+  for (const auto& damaged :
+       {std::string(20'000, 'x'), std::string(), sound.substr(0, 50), later}) {
+    SCOPED_TRACE(damaged.size());
+    const auto file = home.write("other.mdb", damaged);
+    home.write("other.mdb-wal", log);
+    Workspace starting;
+    failureOf([&] {
+      for (auto rows = starting.OpenDatabase(file).OpenRecordset(Tabelle::Logbuch); !rows.Eof();)
+        rows.MoveNext();
+    });
+    EXPECT_TRUE(readFile(file + "-wal") == log);
+  }
+}
+
 TEST_F(FaultsTest, ATableThatIsMissingIsNamed) {
   otherProgram("DROP TABLE Statistik");
   try {
