@@ -18,6 +18,7 @@
 #include "bench_support.h"
 #include "dives/Form2.h"
 #include "dives/Form3.h"
+#include "look/application.h"
 #include "look/convert.h"
 #include "look/frame/form_view.h"
 #include "look/frame/qt_looks.h"
@@ -158,7 +159,7 @@ void measure(const Logbook& logbook) {
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
-  Q_INIT_RESOURCE(assets);
+  nautrel::prepareLook();
   // One less than a full logbook, so that another dive can still be entered.
   const nautrel::bench::Logbook logbook(nautrel::bench::kFullLogbook - 1);
   nautrel::bench::linkPhoto(logbook);

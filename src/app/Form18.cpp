@@ -25,7 +25,8 @@ Form18::Form18(Shell& app)
       Combo1(*this, "Combo1", ComboBox::Style::ListOnly, windowsOfTheStart()),
       CommonDialog1(app.desktop(), {.title = "Load background image",
                                     .filter = "Graphics (*.bmp; *.dib; *.jpg; *.gif; *.wmf; "
-                                              "*.emf)|*.bmp;*.jpg;*.gif;*.wmf;*.emf;*.dib"}),
+                                              "*.emf)|*.bmp;*.jpg;*.gif;*.wmf;*.emf;*.dib",
+                                    .pictures = true}),
       app_(app) {
   Frame3.holds({&Picture1, &Command2});
   Frame4.holds({&Text1, &Command5});

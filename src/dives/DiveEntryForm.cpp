@@ -23,7 +23,8 @@ DiveEntryForm::DiveEntryForm(Shell& app, std::string name, Design design,
       Command1(*this, "Command1", {}),
       CommonDialog1(app.desktop(), {.title = "Link a graphic with this dive",
                                     .filter = "Graphics (*.bmp; *.dib; *.jpg; *.gif; *.wmf; *.emf)|"
-                                              "*.bmp;*.jpg;*.gif;*.wmf;*.emf;*.dib"}),
+                                              "*.bmp;*.jpg;*.gif;*.wmf;*.emf;*.dib",
+                                    .pictures = true}),
       app_(app) {
   placeOnPages();
   bindColumns();

@@ -8,6 +8,7 @@
 #include "look/convert.h"
 #include "look/frame/qt_looks.h"
 #include "look/pictures/icons.h"
+#include "look/system/look_style.h"
 #include "look/system/message_box.h"
 #include "look/system/qt_desktop.h"
 #include "store/divers_folder.h"
@@ -42,12 +43,17 @@ int refuse(std::string_view why, int status) {
 
 }  // namespace
 
+void prepareLook() {
+  loadPictures();
+  QApplication::setStyle(new LookStyle);
+  QApplication::setWindowIcon(namedIcon("nautrel"));
+}
+
 int runApplication(int argc, char** argv) {
   QApplication::setApplicationName(QString::fromUtf8(kApplicationTitle));
   QApplication::setApplicationDisplayName(QString());
   QApplication application(argc, argv);
-  loadPictures();
-  QApplication::setWindowIcon(namedIcon("nautrel"));
+  prepareLook();
   // Task bars find the program's sign and name by its desktop entry.
   QApplication::setDesktopFileName(QStringLiteral("nautrel"));
   QApplication::setQuitOnLastWindowClosed(false);

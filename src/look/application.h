@@ -3,6 +3,10 @@
 
 namespace nautrel {
 
+/// What every window of the look stands on, its dialogs included: pictures, icon, style. Once,
+/// before the first of them.
+void prepareLook();
+
 /// Runs the program in its event loop. Returns the process's status: 3 after a run-time failure,
 /// whose message has been shown by then.
 int runApplication(int argc, char** argv);

@@ -81,7 +81,9 @@ void TextBox::replace(std::size_t start, std::size_t length, std::string inserte
   auto text = withoutPart(text_, start, length);
   if (maxLength_ != 0) {
     const auto kept = characters(text);
-    inserted = firstCharacters(inserted, maxLength_ - std::min(kept, maxLength_));
+    auto fitting = firstCharacters(inserted, maxLength_ - std::min(kept, maxLength_));
+    if (fitting.size() < inserted.size()) form().program().desktop().beep();
+    inserted = std::move(fitting);
   }
   text.insert(byteOfCharacter(text, start), inserted);
   start_ = start + characters(inserted);

@@ -101,6 +101,11 @@ bool Desktop::setUpPrinter() {
   return answer;
 }
 
+void Desktop::beep() {
+  openDoor();
+  ringBell();
+}
+
 std::string Desktop::GetSetting(const std::string& section, const std::string& key) {
   openDoor();
   return readSetting(section, key);

@@ -31,13 +31,14 @@ inline constexpr int kNo = 7;
 
 /// What a common dialog is opened with. `flags`: 2 asks before overwriting, 4 hides the read-only
 /// box. `filter` is "text|pattern;pattern"; `ending`, as ".txt", is what a name to save to gets if
-/// it has it not.
+/// it has it not. One for `pictures` begins where the diver keeps his, any other at his documents.
 struct DialogRequest {
   std::string title = {};
   std::string filter = {};
   std::string fileName = {};
   int flags = 0;
   std::string ending = {};
+  bool pictures = false;
 };
 
 /// Told how far a long work is; false asks it to stop.
@@ -81,6 +82,8 @@ class Desktop {
   std::optional<std::string> openFolder(const DialogRequest& request);
   std::optional<long> chooseColor(long color);
   bool setUpPrinter();
+  /// A soft sound: what was typed finds no room.
+  void beep();
 
   std::string GetSetting(const std::string& section, const std::string& key);
   void SaveSetting(const std::string& section, const std::string& key, const std::string& value);
@@ -138,6 +141,7 @@ class Desktop {
   virtual std::optional<std::string> askFolder(const DialogRequest& request) = 0;
   virtual std::optional<long> askColor(long color) = 0;
   virtual bool askPrinter() = 0;
+  virtual void ringBell() {}
   virtual std::string readSetting(const std::string& section, const std::string& key) = 0;
   virtual void writeSetting(const std::string& section, const std::string& key,
                             const std::string& value) = 0;

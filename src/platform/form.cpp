@@ -122,6 +122,11 @@ void Form::setTabEnd(std::initializer_list<Control*> last) {
   }
 }
 
+Button* Form::enterButton() const {
+  auto* focused = dynamic_cast<Button*>(active_);
+  return focused != nullptr ? focused : default_;
+}
+
 bool Form::wantsEnter() const {
   const auto* box = dynamic_cast<TextBox*>(active_);
   return default_ == nullptr && box != nullptr && box->multiLine();
@@ -232,8 +237,7 @@ void Form::userKey(Key key) {
     auto* box = dynamic_cast<TextBox*>(focused);
     switch (key) {
       case Key::Enter:
-        if (auto* button = dynamic_cast<Button*>(focused)) return press(*button);
-        if (default_ != nullptr) return press(*default_);
+        if (const auto* button = enterButton()) return press(*button);
         if (wantsEnter()) box->userInsert("\n");
         return;
       case Key::Escape:

@@ -71,6 +71,8 @@ class Form {
   Control* control(std::string_view name) const;
   Control* activeControl() const { return active_; }
   Button* defaultButton() const { return default_; }
+  /// The one that Enter presses now: the button that has the focus, else the default.
+  Button* enterButton() const;
 
   /// Whether Enter belongs to the box that has the focus: no default button takes it there.
   bool wantsEnter() const;

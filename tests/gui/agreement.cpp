@@ -114,7 +114,8 @@ class Comparison {
     }
     if (const auto* button = dynamic_cast<const Button*>(&control)) {
       caption(button->caption(), widget);
-      same("default", button->isDefault(), widget.property("default").toBool());
+      if (!boxIsOpen_)
+        same("default", form.enterButton() == button, widget.property("default").toBool());
     }
     if (const auto* check = dynamic_cast<const CheckBox*>(&control)) mark(*check, widget);
     if (const auto* option = dynamic_cast<const OptionButton*>(&control)) mark(*option, widget);

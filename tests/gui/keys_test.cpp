@@ -2,11 +2,16 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <set>
 
 #include "calculators/Form21.h"
 #include "dives/Form13.h"
 #include "dives/Form4.h"
 #include "gui/gui_test.h"
+#include "look/contrast.h"
 
 namespace nautrel {
 namespace {
@@ -117,6 +122,48 @@ TEST_F(Keys, AltAndALetterGoOnFromOneOwnerToTheNextAndTypeNothing) {
   mouse(form.Text14);
   key(Qt::Key_C, Qt::AltModifier);
   EXPECT_FALSE(app->loaded(4)) << "behind the box of the weather comes Close";
+}
+
+/// How many of the dots are clearly others.
+int dotsChanged(const QImage& before, const QImage& after) {
+  int changed = 0;
+  for (int y = 0; y < before.height(); ++y)
+    for (int x = 0; x < before.width(); ++x)
+      changed += contrast(before.pixelColor(x, y), after.pixelColor(x, y)) >= 3;
+  return changed;
+}
+
+TEST_F(Keys, TheFocusAndTheButtonOfEnterAreSeenFromTheFirstTabOn) {
+  addDives(1, 3);
+  start();
+  std::set<std::string> seen;
+  const auto look = [&](const Control& control) {
+    auto* tabs = qobject_cast<QTabWidget*>(&widget(control));
+    return (tabs == nullptr ? widget(control) : *tabs->tabBar()).grab().toImage();
+  };
+  forEveryWindow([&](Form& form) {
+    const auto* first = form.activeControl();
+    for (int i = 0; i < 60 && (i == 0 || form.activeControl() != first); ++i) {
+      const auto* control = form.activeControl();
+      const auto where = form.name() + "." + (control == nullptr ? "" : control->name());
+      if (control == nullptr) return;
+      expectFocus(*control);
+      for (const auto* button : window(form)->findChildren<QPushButton*>())
+        EXPECT_EQ(button->isDefault(),
+                  form.enterButton() != nullptr &&
+                      fromQt(button->objectName()) == form.enterButton()->name())
+            << where;
+      const auto with = look(*control);
+      key(Qt::Key_Tab);
+      if (form.activeControl() == control) return;
+      if (dynamic_cast<const Captioned*>(control) == nullptr &&
+          dynamic_cast<const TabStrip*>(control) == nullptr)
+        continue;
+      EXPECT_GE(dotsChanged(look(*control), with), 30) << where;
+      seen.insert(where);
+    }
+  });
+  EXPECT_GE(seen.size(), 60U);
 }
 
 }  // namespace

@@ -328,7 +328,7 @@ TEST_F(Look, ComingBackToAWindowRunsNoRuleAndFindsTheFocusWhereItWasLeft) {
   for (const auto& [way, comeBack] : ways) {
     leave();
     // The toolkit remembers for its window where the focus was last, right or wrong.
-    widget(form.Text2).setFocus();
+    app->handle([&] { widget(form.Text2).setFocus(); });
     leave();
     comeBack();
     settle();
@@ -336,6 +336,25 @@ TEST_F(Look, ComingBackToAWindowRunsNoRuleAndFindsTheFocusWhereItWasLeft) {
     expectFocus(form.Text5);
     EXPECT_EQ(desktop->texts(), std::vector<std::string>{}) << way;
   }
+}
+
+TEST_F(Look, AnAssistiveToolGivesTheFocusToAnyControl) {
+  auto& form = insert();
+  const auto give = [&](const Control& control) {
+    auto* tool = QAccessible::queryAccessibleInterface(&widget(control))->actionInterface();
+    tool->doAction(QAccessibleActionInterface::setFocusAction());
+    settle();
+    expectFocus(control);
+  };
+  give(form.Text5);
+  give(form.Check1);
+  click(app->MDIForm1().Menü7a);
+  settle();
+  give(app->Form21().Text2);
+  give(form.Text8);
+  EXPECT_EQ(app->activeForm(), &form);
+  keys("Anna");
+  EXPECT_EQ(form.Text8.text(), "Anna");
 }
 
 TEST_F(Look, TheStatusBarGivesWayToTheProgress) {

@@ -3,10 +3,12 @@
 
 #include <QApplication>
 
+#include "look/application.h"
+
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  Q_INIT_RESOURCE(assets);
+  nautrel::prepareLook();
   ::testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }

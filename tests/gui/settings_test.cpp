@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include <QAbstractButton>
+#include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLayout>
 #include <QSettings>
 #include <QTimer>
@@ -58,10 +60,22 @@ TEST(WindowPlace, AFileDialogIsNoLargerThanTheScreen) {
 TEST(WindowPlace, TheProgramsFileDialogsAreFittedAndGiveWhatIsTyped) {
   const TemporaryFolder folder;
   folder.write("there.txt", "");
+  const auto make = [&](const char* name) {
+    std::filesystem::create_directory(folder.file(name));
+    return QFileInfo(toQt(folder.file(name))).canonicalFilePath();
+  };
+  const auto photos = make("Photos");
+  const auto papers = make("Papers");
+  folder.write("user-dirs.dirs", "XDG_PICTURES_DIR=\"" + fromQt(photos) +
+                                     "\"\nXDG_DOCUMENTS_DIR=\"" + fromQt(papers) + "\"\n");
+  qputenv("XDG_CONFIG_HOME", folder.path().c_str());
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, toQt(folder.path()));
   QtDesktop desktop;
+  QStringList begun;
   const auto answer = [&](const char* name) {
-    QTimer::singleShot(0, [=, path = toQt(folder.file(name))] {
+    QTimer::singleShot(0, [&, path = toQt(folder.file(name))] {
       auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
+      begun += dialog.directory().canonicalPath();
       EXPECT_EQ(dialog.layout()->sizeConstraint(), QLayout::SetNoConstraint);
       EXPECT_EQ(dialog.windowTitle(), "Some title");
       dialog.findChild<QLineEdit*>("fileNameEdit")->setText(path);
@@ -73,8 +87,53 @@ TEST(WindowPlace, TheProgramsFileDialogsAreFittedAndGiveWhatIsTyped) {
   EXPECT_EQ(desktop.openFile(request), folder.file("there.txt"));
   answer("new.txt");
   EXPECT_EQ(desktop.saveFile(request), folder.file("new.txt"));
+  answer("there.txt");
+  EXPECT_TRUE(desktop.openFile({.title = "Some title", .filter = "*.*|*.*", .pictures = true}));
   QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
   EXPECT_FALSE(desktop.saveFile(request));
+  const auto last = QFileInfo(toQt(folder.path())).canonicalFilePath();
+  EXPECT_EQ(begun, (QStringList{papers, last, photos}));
+}
+
+// Each with its buttons plain and in sight on a small screen, and with nothing in its frame but a
+// title and what closes it.
+TEST(Dialogs, HavePlainButtonsAndFrames) {
+  QtDesktop desktop;
+  const QSize room = roomOn(*QGuiApplication::primaryScreen());
+  int dialogs = 0;
+  const auto look = [&](bool closes) {
+    QTimer::singleShot(0, [&, closes] {
+      auto& dialog = *QApplication::activeModalWidget();
+      ++dialogs;
+      const auto hints = dialog.windowFlags();
+      EXPECT_FALSE(hints & Qt::WindowMinMaxButtonsHint);
+      EXPECT_TRUE(hints & Qt::CustomizeWindowHint);
+      EXPECT_EQ(bool(hints & Qt::WindowCloseButtonHint), closes);
+      EXPECT_EQ(dialog.size().boundedTo(room), dialog.size());
+      for (const auto* button : dialog.findChildren<QDialogButtonBox*>().front()->buttons()) {
+        EXPECT_TRUE(button->icon().isNull());
+        EXPECT_TRUE(
+            dialog.rect().contains(QRect(button->mapTo(&dialog, QPoint()), button->size())));
+      }
+      static_cast<QDialog&>(dialog).done(QDialog::Rejected);
+    });
+  };
+  look(true);
+  desktop.MsgBox("Some prompt", 64);
+  look(false);
+  desktop.MsgBox("Some question", kAskNo);
+  look(true);
+  desktop.InputBox("Some prompt", "Some title");
+  look(true);
+  desktop.chooseColor(0);
+  look(true);
+  desktop.setUpPrinter();
+  EXPECT_EQ(dialogs, 5);
+
+  QColorDialog color;
+  scrollInto({624, 352}, color);
+  color.show();
+  EXPECT_TRUE(color.width() <= 624 && color.height() <= 352);
 }
 
 TEST_F(GuiTest, AMainWindowStoredFarAwayComesBackAndItsSettingsStay) {

@@ -151,6 +151,7 @@ TEST_F(FormTest, ABoxCutsWhatDoesNotFitAndTellsRealChangesOnly) {
   window.First.userSelect(1, 1);
   window.First.userInsert("12345");
   EXPECT_EQ(window.First.text(), "ä1bß") << "an insertion is cut, not the tail";
+  EXPECT_EQ(desktop.beeps, 1);
   press(window, Key::Backspace);
   EXPECT_EQ(window.First.text(), "äbß");
 }

@@ -62,6 +62,7 @@ class ScriptedDesktop : public Desktop {
   std::vector<std::string> works;  // what was done as long work
   /// What the long work to come is told; without it, to go on.
   Progress working;
+  int beeps = 0;
   /// Called while a box is open.
   std::function<void()> whileBoxIsOpen;
   /// A number below the given one. With it, whatever no answer is laid out for is answered by
@@ -86,6 +87,7 @@ class ScriptedDesktop : public Desktop {
   void runApart(const std::string& what, const LongWork& work) override;
   std::optional<long> askColor(long color) override;
   bool askPrinter() override;
+  void ringBell() override { ++beeps; }
   std::string readSetting(const std::string& section, const std::string& key) override;
   void writeSetting(const std::string& section, const std::string& key,
                     const std::string& value) override;

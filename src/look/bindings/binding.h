@@ -27,6 +27,8 @@ class Binding : public QObject {
   virtual void release();
   /// The desktop's font or colours are others.
   virtual void restyle() {}
+  /// Whether the widget tells who of the window has the focus, besides its own.
+  virtual bool followsFocus() const { return false; }
   void markDirty() { dirty_ = true; }
   bool dirty() const { return dirty_; }
 

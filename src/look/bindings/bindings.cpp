@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -137,6 +138,7 @@ class ButtonBinding : public Binding {
     widget.setAutoDefault(false);
     connect(&widget, &QPushButton::clicked, this, [this] { button_.userClick(); });
   }
+  bool followsFocus() const override { return true; }
 
  protected:
   void pushContent() override {
@@ -144,7 +146,8 @@ class ButtonBinding : public Binding {
       widget_.setText(text);
       giveTextRoom();
     }
-    if (widget_.isDefault() != button_.isDefault()) widget_.setDefault(button_.isDefault());
+    const bool takesEnter = button_.form().enterButton() == &button_;
+    if (widget_.isDefault() != takesEnter) widget_.setDefault(takesEnter);
   }
 
  private:
@@ -181,7 +184,7 @@ class OptionBinding : public Binding {
  public:
   OptionBinding(OptionButton& option, QRadioButton& widget)
       : Binding(option, widget), option_(option), out_(widget) {
-    widget.setAutoExclusive(false);
+    letModelExclude();
     widget.setFocusPolicy(Qt::TabFocus);
     connect(&widget, &QRadioButton::clicked, this, [this] { option_.userClick(); });
   }
@@ -212,6 +215,14 @@ class OptionBinding : public Binding {
   }
 
  private:
+  // The model switches the neighbours off, and a group may be empty. Without auto-exclusivity the
+  // widget would be a check box to a screen reader; a group of its own takes the effect from it.
+  void letModelExclude() {
+    auto* alone = new QButtonGroup(&out_);
+    alone->setExclusive(false);
+    alone->addButton(&out_);
+  }
+
   OptionButton& option_;
   QRadioButton& out_;
 };

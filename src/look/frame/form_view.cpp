@@ -74,6 +74,8 @@ void FormView::controlChanged(Control& control) {
 
 void FormView::formChanged() {
   formDirty_ = focusDirty_ = true;
+  for (const auto& binding : bindings_)
+    if (binding->followsFocus()) binding->markDirty();
   news();
 }
 

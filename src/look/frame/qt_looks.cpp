@@ -23,8 +23,7 @@ constexpr int kRepaintEvery = 40;  // milliseconds
 QtLooks::QtLooks(Program& program) : program_(program), keyboard_(program, *this) {
   sinceRepaint_.start();
   qApp->installEventFilter(this);
-  connect(qApp, &QApplication::focusChanged, this,
-          [this](QWidget*, QWidget* now) { focusMoved(now); });
+  connect(qApp, &QApplication::focusChanged, this, &QtLooks::focusMoved);
 }
 
 QtLooks::~QtLooks() = default;
@@ -122,12 +121,18 @@ bool QtLooks::eventFilter(QObject* watched, QEvent* event) {
 // Only what the user does counts: while a handler runs, or the screen follows a model, the focus
 // moves on the screen are echoes. Where the toolkit puts the focus when a window comes to the front
 // or back from another program is its own memory and not the user's wish: the model's is pushed.
-void QtLooks::focusMoved(QWidget* now) {
+// An assistive tool gives it to a control directly: inside one window, or into one that has not
+// come to the front before.
+void QtLooks::focusMoved(QWidget* before, QWidget* now) {
   if (now == nullptr || flushing_ || program_.handling()) return;
   auto* view = viewAround(now);
   auto* binding = view == nullptr ? nullptr : view->bindingAround(now);
   if (binding == nullptr) return;
-  if (focusReason_ == Qt::MouseFocusReason) return view->form().userFocus(binding->control());
+  const bool cameFirst = view->root()->windowState().testFlag(Qt::WindowActive);
+  const bool byTool = focusReason_ == Qt::OtherFocusReason &&
+                      (!cameFirst || view->bindingAround(before) != nullptr);
+  if (focusReason_ == Qt::MouseFocusReason || byTool)
+    return view->form().userFocus(binding->control());
   if (auto* front = frontView()) front->formChanged();
 }
 

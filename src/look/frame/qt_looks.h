@@ -38,7 +38,7 @@ class QtLooks : public QObject, public Looks {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void focusMoved(QWidget* now);
+  void focusMoved(QWidget* before, QWidget* now);
   void restyleSoon();
   FormView* frontView() const;
 

@@ -2,8 +2,10 @@
 #include "look/frame/window_place.h"
 
 #include <QDialog>
-#include <QLayout>
+#include <QDialogButtonBox>
 #include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
 #include <algorithm>
 
 namespace nautrel {
@@ -57,6 +59,25 @@ void fitInto(const QSize& room, QDialog& dialog) {
   if (dialog.layout() == nullptr) return;  // the system's own
   dialog.layout()->setSizeConstraint(QLayout::SetNoConstraint);
   dialog.resize(dialog.size().boundedTo(room));
+}
+
+void scrollInto(const QSize& room, QDialog& dialog) {
+  if (dialog.layout() == nullptr || dialog.sizeHint().boundedTo(room) == dialog.sizeHint()) return;
+  auto* content = new QWidget;
+  content->setLayout(dialog.layout());
+  auto* area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidget(content);
+  auto* layout = new QVBoxLayout(&dialog);
+  layout->addWidget(area);
+  if (auto* buttons = content->findChild<QDialogButtonBox*>()) layout->addWidget(buttons);
+  dialog.resize((area->sizeHint() + QSize(60, 80)).boundedTo(room));
+}
+
+void frameDialog(QDialog& dialog, bool closable) {
+  dialog.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                        Qt::WindowSystemMenuHint |
+                        (closable ? Qt::WindowCloseButtonHint : Qt::WindowType(0)));
 }
 
 }  // namespace nautrel

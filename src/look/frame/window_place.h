@@ -17,5 +17,9 @@ QRect pulledBack(const QRect& window, const QList<QRect>& screens);
 QSize roomOn(const QScreen& screen);
 /// Makes a dialog no larger than that, even one whose contents ask for more.
 void fitInto(const QSize& room, QDialog& dialog);
+/// The same for one that cannot shrink: what finds no room is scrolled to.
+void scrollInto(const QSize& room, QDialog& dialog);
+/// A title, and a close box where it may be closed; nothing to minimize or maximize it by.
+void frameDialog(QDialog& dialog, bool closable = true);
 
 }  // namespace nautrel

@@ -10,6 +10,8 @@
 #include <QPrinterInfo>
 #include <QRadioButton>
 
+#include "look/frame/window_place.h"
+
 namespace nautrel {
 namespace {
 
@@ -119,6 +121,7 @@ void PrinterSetUp::choose(const QString& printer, const QPageLayout& paper) {
 
 bool setUpPrinterDialog(QWidget* parent, PrinterSetUp& setUp) {
   SetUpDialog dialog(parent, setUp);
+  frameDialog(dialog);
   if (dialog.exec() != QDialog::Accepted) return false;
   setUp.choose(dialog.printer(), dialog.paper());
   return true;

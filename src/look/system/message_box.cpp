@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "look/frame/window_place.h"
 #include "platform/desktop.h"
 
 namespace nautrel {
@@ -69,13 +70,14 @@ int showMessageBox(QWidget* parent, const QString& prompt, int style, const QStr
   if ((style & kButtons) != kYesNo) {
     QMessageBox box(parent);
     prepare(box, prompt, style, title);
+    frameDialog(box);
     box.setStandardButtons(QMessageBox::Ok);
     box.exec();
     return kOk;
   }
   Question box(parent);
   prepare(box, prompt, style, title);
-  box.setWindowFlag(Qt::WindowCloseButtonHint, false);
+  frameDialog(box, false);
   box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
   box.setDefaultButton((style & kSecondDefault) != 0 ? QMessageBox::No : QMessageBox::Yes);
   box.exec();

@@ -12,6 +12,7 @@
 #include <QLocale>
 #include <QMenu>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QUrl>
 
 #include "look/convert.h"
@@ -50,10 +51,10 @@ QString nameFilter(const std::string& filter) {
   return name + QStringLiteral(" (") + patterns.replace(';', ' ') + ')';
 }
 
-std::optional<std::string> chosenIn(QFileDialog& dialog) {
-  fitInto(roomOn(*dialog.screen()), dialog);
-  if (dialog.exec() != QDialog::Accepted) return {};
-  return fromQt(QDir::toNativeSeparators(dialog.selectedFiles().value(0)));
+constexpr const char* kFolders = "Folders";
+
+const char* folderKey(const DialogRequest& request) {
+  return request.pictures ? "Pictures" : "Files";
 }
 
 }  // namespace
@@ -77,21 +78,42 @@ std::string QtDesktop::askText(const std::string& prompt, const std::string& tit
   QInputDialog dialog(parentWindow());
   dialog.setWindowTitle(toQt(title));
   dialog.setLabelText(toQt(prompt));
+  frameDialog(dialog);
   return dialog.exec() == QDialog::Accepted ? fromQt(dialog.textValue()) : std::string{};
 }
 
+// Where he was last, as long as it is there.
+QString QtDesktop::startFolder(const DialogRequest& request) {
+  const auto last = toQt(readSetting(kFolders, folderKey(request)));
+  if (!last.isEmpty() && QFileInfo(last).isDir()) return last;
+  const auto usual = QStandardPaths::writableLocation(
+      request.pictures ? QStandardPaths::PicturesLocation : QStandardPaths::DocumentsLocation);
+  return QFileInfo(usual).isDir() ? usual : QDir::homePath();
+}
+
+std::optional<std::string> QtDesktop::chosenIn(QFileDialog& dialog, const DialogRequest& request) {
+  frameDialog(dialog);
+  fitInto(roomOn(*dialog.screen()), dialog);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  const auto file = dialog.selectedFiles().value(0);
+  writeSetting(kFolders, folderKey(request), fromQt(QFileInfo(file).absolutePath()));
+  return fromQt(QDir::toNativeSeparators(file));
+}
+
 std::optional<std::string> QtDesktop::askFileToOpen(const DialogRequest& request) {
-  QFileDialog dialog(parentWindow(), toQt(request.title), {}, nameFilter(request.filter));
+  QFileDialog dialog(parentWindow(), toQt(request.title), startFolder(request),
+                     nameFilter(request.filter));
   dialog.setFileMode(QFileDialog::ExistingFile);
-  return chosenIn(dialog);
+  return chosenIn(dialog, request);
 }
 
 std::optional<std::string> QtDesktop::askFileToSave(const DialogRequest& request) {
-  QFileDialog dialog(parentWindow(), toQt(request.title), toQt(request.fileName),
+  const auto name = QFileInfo(toQt(request.fileName)).fileName();
+  QFileDialog dialog(parentWindow(), toQt(request.title), startFolder(request) + '/' + name,
                      nameFilter(request.filter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  return chosenIn(dialog);
+  return chosenIn(dialog, request);
 }
 
 std::optional<std::string> QtDesktop::askFolder(const DialogRequest& request) {
@@ -106,9 +128,15 @@ void QtDesktop::runApart(const std::string& what, const LongWork& work) {
 }
 
 std::optional<long> QtDesktop::askColor(long color) {
-  const auto chosen = QColorDialog::getColor(toQt(color), parentWindow());
-  if (!chosen.isValid()) return {};
-  return fromQt(chosen);
+  QColorDialog dialog(toQt(color), parentWindow());
+  frameDialog(dialog);
+  scrollInto(roomOn(*dialog.screen()), dialog);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  return fromQt(dialog.selectedColor());
+}
+
+void QtDesktop::ringBell() {
+  QApplication::beep();
 }
 
 bool QtDesktop::askPrinter() {

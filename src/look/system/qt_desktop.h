@@ -9,6 +9,8 @@
 #include "look/reports/printing.h"
 #include "platform/desktop.h"
 
+class QFileDialog;
+
 namespace nautrel {
 
 class QtLooks;
@@ -31,6 +33,7 @@ class QtDesktop : public Desktop {
   void runApart(const std::string& what, const LongWork& work) override;
   std::optional<long> askColor(long color) override;
   bool askPrinter() override;
+  void ringBell() override;
   std::string readSetting(const std::string& section, const std::string& key) override;
   void writeSetting(const std::string& section, const std::string& key,
                     const std::string& value) override;
@@ -50,6 +53,8 @@ class QtDesktop : public Desktop {
  private:
   QWidget* parentWindow() const;
   QPoint popupPlace(const Control* above) const;
+  QString startFolder(const DialogRequest& request);
+  std::optional<std::string> chosenIn(QFileDialog& dialog, const DialogRequest& request);
   /// Runs a step of a report; its fault is told to the user and ends there.
   void telling(const std::function<void()>& step);
 
