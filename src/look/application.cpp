@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "app/Nautrel.h"
+#include "look/bindings/spoken.h"
 #include "look/convert.h"
 #include "look/frame/qt_looks.h"
 #include "look/pictures/icons.h"
@@ -45,6 +46,7 @@ int refuse(std::string_view why, int status) {
 
 void prepareLook() {
   loadPictures();
+  letWidgetsSpeak();
   QApplication::setStyle(new LookStyle);
   QApplication::setWindowIcon(namedIcon("nautrel"));
 }

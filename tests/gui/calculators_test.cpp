@@ -7,6 +7,7 @@
 #include "calculators/Form22.h"
 #include "evaluation/Form6.h"
 #include "gui/gui_test.h"
+#include "look/bindings/spoken.h"
 #include "look/pictures/scene_view.h"
 
 namespace nautrel {
@@ -70,7 +71,7 @@ TEST_F(Calculators, PaintTheAirAsHighAsItStands) {
   EXPECT_EQ(colorAt(view, frame, 2160, 1500), air);
   EXPECT_EQ(colorAt(view, frame, 2160, 2170), air);
   EXPECT_EQ(colorAt(view, frame, 2160, 2270), water);
-  EXPECT_EQ(view.accessibleDescription(), "0 ft, 33 ft");
+  EXPECT_EQ(dynamic_cast<Spoken&>(view).spokenValue(), "0 ft, 33 ft");
   form.Shape4.setHeight(1e30);
   settle();
   EXPECT_EQ(colorAt(view, frame, 2160, 2850), air);

@@ -159,7 +159,7 @@ TEST_F(ChartWidgetTest, CopiesPictureAndRowsTogether) {
   EXPECT_EQ(picture.size(), QSize(1000, 640));
   EXPECT_EQ(picture.pixelColor(1, 1), Qt::white);
   EXPECT_EQ(chart.grab().toImage().pixelColor(1, 1), Qt::black);
-  EXPECT_EQ(chart.accessibleDescription(), "Percent / Month. Jan: 33,3333333333333; Feb: 0");
+  EXPECT_EQ(chart.spokenValue(), "Percent / Month. Jan: 33,3333333333333; Feb: 0");
 }
 
 }  // namespace

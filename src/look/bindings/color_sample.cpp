@@ -16,6 +16,21 @@ void ColorSample::setColor(const QColor& color) {
   update();
 }
 
+QString ColorSample::spokenValue() const {
+  return QStringLiteral("red %1, green %2, blue %3")
+      .arg(color_.red())
+      .arg(color_.green())
+      .arg(color_.blue());
+}
+
+QStringList ColorSample::spokenActions() const {
+  return {QAccessibleActionInterface::pressAction()};
+}
+
+void ColorSample::doSpoken(const QString&) {
+  click();
+}
+
 void ColorSample::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setPen(palette().color(isDown() ? QPalette::Highlight : QPalette::Dark));

@@ -1,21 +1,36 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "look/bindings/combo_binding.h"
 
+#include <QAbstractItemView>
+#include <QLabel>
 #include <QLineEdit>
 
 #include "look/bindings/text_binding.h"
 #include "look/convert.h"
 
 namespace nautrel {
+namespace {
+
+/// As the design names it, or the label before it.
+QString nameOf(const QComboBox& box) {
+  if (!box.accessibleName().isEmpty()) return box.accessibleName();
+  for (const auto* label : box.window()->findChildren<QLabel*>())
+    if (label->buddy() == &box) return label->text().remove('&');
+  return {};
+}
+
+}  // namespace
 
 ComboBinding::ComboBinding(ComboBox& box, QComboBox& widget)
     : Binding(box, widget), box_(box), out_(widget) {
   const bool free = box.style() == ComboBox::Style::FreeText;
   widget.setFocusPolicy(Qt::StrongFocus);
   widget.setEditable(free);
+  widget.view()->setAccessibleName(nameOf(widget));
   if (free) {
     widget.setInsertPolicy(QComboBox::NoInsert);
     widget.setCompleter(nullptr);
+    widget.lineEdit()->setAccessibleName(nameOf(widget));
     watch(*widget.lineEdit());
     connect(&widget, &QComboBox::editTextChanged, this, [this](const QString& text) {
       const auto edit = editBetween(toQt(box_.text()), text, out_.lineEdit()->cursorPosition());

@@ -17,19 +17,27 @@ NavigatorBar::NavigatorBar(QWidget* parent) : QFrame(parent) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(2, 2, 2, 2);
   row->setSpacing(2);
-  add(Navigator::Arrow::First, "nav_first", "First dive");
-  add(Navigator::Arrow::Previous, "nav_previous", "Previous dive");
-  add(Navigator::Arrow::Next, "nav_next", "Next dive");
-  add(Navigator::Arrow::Last, "nav_last", "Last dive");
+  add(Navigator::Arrow::First, "nav_first");
+  add(Navigator::Arrow::Previous, "nav_previous");
+  add(Navigator::Arrow::Next, "nav_next");
+  add(Navigator::Arrow::Last, "nav_last");
+  setItem(QStringLiteral("dive"));
 }
 
-void NavigatorBar::add(Navigator::Arrow arrow, const char* icon, const char* name) {
+void NavigatorBar::setItem(const QString& item) {
+  item_ = item;
+  const char* const places[] = {"First", "Previous", "Next", "Last"};
+  const char* const* place = places;
+  for (auto* button : findChildren<QToolButton*>())
+    button->setAccessibleName(QString(*place++) + ' ' + item);
+}
+
+void NavigatorBar::add(Navigator::Arrow arrow, const char* icon) {
   auto* button = new QToolButton(this);
   button->setIcon(namedIcon(icon));
   button->setIconSize({16, 16});
   button->setMinimumWidth(36);
   button->setFocusPolicy(Qt::NoFocus);
-  button->setAccessibleName(name);
   button->setAutoRepeat(arrow == Navigator::Arrow::Previous || arrow == Navigator::Arrow::Next);
   layout()->addWidget(button);
   connect(button, &QToolButton::clicked, this, [this, arrow] { press(arrow); });

@@ -4,6 +4,7 @@
 #include <QFrame>
 #include <functional>
 
+#include "look/bindings/spoken.h"
 #include "platform/controls.h"
 
 class QToolButton;
@@ -11,12 +12,21 @@ class QToolButton;
 namespace nautrel {
 
 /// The arrows of a data control: first, previous, next, last. The mouse does not give it the
-/// focus; by key the arrow keys and Home and End press.
-class NavigatorBar : public QFrame {
+/// focus; by key the arrow keys and Home and End press. `item`, a property of the form's design,
+/// says what they go to.
+class NavigatorBar : public QFrame, public Spoken {
+  Q_OBJECT
+  Q_PROPERTY(QString item READ item WRITE setItem)
+
  public:
   explicit NavigatorBar(QWidget* parent = nullptr);
 
+  QString item() const { return item_; }
+  void setItem(const QString& item);
   std::function<void(Navigator::Arrow)> pressed;
+
+  QAccessible::Role spokenRole() const override { return QAccessible::ToolBar; }
+  QString spokenValue() const override { return {}; }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -25,8 +35,10 @@ class NavigatorBar : public QFrame {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void add(Navigator::Arrow arrow, const char* icon, const char* name);
+  void add(Navigator::Arrow arrow, const char* icon);
   void press(Navigator::Arrow arrow) const;
+
+  QString item_;
 };
 
 }  // namespace nautrel

@@ -2,12 +2,29 @@
 #include "look/bindings/spin_arrows.h"
 
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 namespace nautrel {
+namespace {
+
+/// The last box of the layout before the widget stands; `stands` tells whether it stands there.
+const QLineEdit* boxBefore(const QLayout& layout, const QWidget& widget, bool& stands) {
+  const QLineEdit* box = nullptr;
+  for (int i = 0; i < layout.count() && !stands; ++i) {
+    auto* item = layout.itemAt(i);
+    stands = item->widget() == &widget;
+    if (auto* edit = qobject_cast<QLineEdit*>(item->widget())) box = edit;
+    if (const auto* inner = item->layout())
+      if (const auto* found = boxBefore(*inner, widget, stands)) box = found;
+  }
+  return box;
+}
+
+}  // namespace
 
 SpinArrows::SpinArrows(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::TabFocus);
@@ -32,6 +49,22 @@ QToolButton* SpinArrows::arrow(Qt::ArrowType type, bool up) {
 
 void SpinArrows::step(bool up) const {
   if (stepped) stepped(up);
+}
+
+QString SpinArrows::spokenValue() const {
+  bool stands = false;
+  const auto* layout = parentWidget() == nullptr ? nullptr : parentWidget()->layout();
+  const auto* box = layout == nullptr ? nullptr : boxBefore(*layout, *this, stands);
+  return box == nullptr ? QString() : box->text();
+}
+
+QStringList SpinArrows::spokenActions() const {
+  return {QAccessibleActionInterface::increaseAction(),
+          QAccessibleActionInterface::decreaseAction()};
+}
+
+void SpinArrows::doSpoken(const QString& action) {
+  step(action == QAccessibleActionInterface::increaseAction());
 }
 
 void SpinArrows::keyPressEvent(QKeyEvent* event) {

@@ -40,7 +40,6 @@ ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent), turn_(kFirstTurn) {
 void ChartWidget::setData(ChartData data) {
   data_ = std::move(data);
   turning_ = turning_ && data_.rotation;
-  setAccessibleDescription(describe(data_));
   update();
 }
 

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <memory>
 
+#include "look/bindings/spoken.h"
 #include "look/charts/chart_data.h"
 #include "look/charts/chart_space.h"
 #include "look/edge.h"
@@ -15,7 +16,7 @@ namespace nautrel {
 
 /// One series as bars or a line, flat or in space. A chart in space that may be turned follows the
 /// mouse while Ctrl is held. Pointing at a row tells its value.
-class ChartWidget : public QWidget {
+class ChartWidget : public QWidget, public Spoken {
   Q_OBJECT
 
  public:
@@ -30,6 +31,9 @@ class ChartWidget : public QWidget {
 
   /// Around all painting and pointing.
   Edge edge = [](const auto& step) { step(); };
+
+  QAccessible::Role spokenRole() const override { return QAccessible::Chart; }
+  QString spokenValue() const override { return describe(data_); }
 
   QSize sizeHint() const override { return {700, 390}; }
   QSize minimumSizeHint() const override { return {300, 200}; }

@@ -10,12 +10,16 @@ namespace nautrel {
 /// A picture as the look holds it: decoded, at most as large as a screen shows it.
 class ImagePicture : public PictureData {
  public:
-  explicit ImagePicture(QImage decoded) : image(std::move(decoded)) {}
+  ImagePicture(QImage decoded, QString file) : image(std::move(decoded)), name(std::move(file)) {}
   const QImage image;
+  const QString name;  // of its file, without the folder
 };
 
+inline const ImagePicture* heldIn(const Picture& picture) {
+  return dynamic_cast<const ImagePicture*>(picture.get());
+}
 inline const QImage* imageOf(const Picture& picture) {
-  const auto* held = dynamic_cast<const ImagePicture*>(picture.get());
+  const auto* held = heldIn(picture);
   return held == nullptr ? nullptr : &held->image;
 }
 

@@ -25,6 +25,11 @@ QSize PictureView::sizeHint() const {
                            : namedPicture(design_).deviceIndependentSize().toSize();
 }
 
+QString PictureView::spokenValue() const {
+  if (const auto* held = heldIn(picture_)) return held->name;
+  return design_.isEmpty() ? QStringLiteral("none") : QString();
+}
+
 void PictureView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);

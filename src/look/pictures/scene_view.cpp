@@ -41,6 +41,13 @@ void SceneView::setFigures(std::vector<Figure> figures) {
   update();
 }
 
+QString SceneView::spokenValue() const {
+  QStringList texts;
+  for (const auto& figure : figures_)
+    if (!figure.text.empty()) texts += toQt(figure.text);
+  return texts.join(QStringLiteral(", "));
+}
+
 // Edges fall between two dots of the screen, where they are sharp. A line lies on the right of its
 // place and below, so that what a bucket holds ends at its walls.
 QRectF SceneView::place(const Figure& figure) const {
@@ -110,17 +117,13 @@ bool SceneBinding::shows(const Control& control) const {
   return drawing != nullptr && drawing->sharesPictureWith(frame_);
 }
 
-// What is written in the picture is told to those who cannot see it.
 void SceneBinding::pushContent() {
   std::vector<Figure> figures;
-  QStringList texts;
   for (const auto* control : frame_.form().controls()) {
     if (!control->visible() || !shows(*control)) continue;
     figures.push_back(static_cast<const Drawing*>(control)->figure());
-    if (const auto& text = figures.back().text; !text.empty()) texts += toQt(text);
   }
   view_.setFigures(std::move(figures));
-  view_.setAccessibleDescription(texts.join(", "));
 }
 
 }  // namespace nautrel

@@ -5,13 +5,14 @@
 #include <vector>
 
 #include "look/bindings/binding.h"
+#include "look/bindings/spoken.h"
 #include "platform/drawing.h"
 
 namespace nautrel {
 
 /// Paints a picture of figures, at any scale of the screen as sharp as the screen is. What reaches
-/// beyond the frame is cut off.
-class SceneView : public QWidget {
+/// beyond the frame is cut off. What is written in the picture is told to those who cannot see it.
+class SceneView : public QWidget, public Spoken {
   Q_OBJECT
 
  public:
@@ -20,6 +21,9 @@ class SceneView : public QWidget {
   /// The part of the picture, in twips, that fills the widget.
   void setFrame(const QRectF& frame) { frame_ = frame; }
   void setFigures(std::vector<Figure> figures);
+
+  QAccessible::Role spokenRole() const override { return QAccessible::Graphic; }
+  QString spokenValue() const override;
 
  protected:
   bool event(QEvent* event) override;

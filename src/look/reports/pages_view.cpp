@@ -15,6 +15,7 @@ constexpr double kTwipsPerInch = 1440;
 }  // namespace
 
 PagesView::PagesView(const ReportPages& pages, QWidget* parent) : QWidget(parent), pages_(pages) {
+  setAccessibleName(QStringLiteral("Pages"));
   setZoom(1);
 }
 
@@ -44,6 +45,13 @@ int PagesView::topOf(int page) const {
 
 int PagesView::pageAt(int y) const {
   return qBound(0, static_cast<int>(y / (sheet().height() + kGap)), pages_.count() - 1);
+}
+
+QString PagesView::spokenValue() const {
+  const auto seen = visibleRegion().boundingRect();
+  return QStringLiteral("Page %1 of %2")
+      .arg(pageAt(seen.top() + seen.height() / 3) + 1)
+      .arg(pages_.count());
 }
 
 void PagesView::paintEvent(QPaintEvent* event) {

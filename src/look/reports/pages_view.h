@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+#include "look/bindings/spoken.h"
 #include "look/edge.h"
 
 namespace nautrel {
@@ -10,7 +11,7 @@ namespace nautrel {
 class ReportPages;
 
 /// The pages of a report below each other, painted as they come into view.
-class PagesView : public QWidget {
+class PagesView : public QWidget, public Spoken {
  public:
   PagesView(const ReportPages& pages, QWidget* parent);
 
@@ -22,6 +23,9 @@ class PagesView : public QWidget {
   /// Pages count from 0; `topOf` is where the view scrolls to show one.
   int topOf(int page) const;
   int pageAt(int y) const;
+
+  QAccessible::Role spokenRole() const override { return QAccessible::Document; }
+  QString spokenValue() const override;
 
   /// Around all painting.
   Edge edge = [](const auto& step) { step(); };

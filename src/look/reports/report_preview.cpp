@@ -45,6 +45,7 @@ ReportPreview::ReportPreview(const ReportPages& pages, const QString& title, QWi
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   area_->setWidget(view_);
   area_->setAlignment(Qt::AlignHCenter);
+  area_->setAccessibleName(QStringLiteral("Pages"));
   area_->setFrameShape(QFrame::NoFrame);
   area_->setBackgroundRole(QPalette::Dark);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);

@@ -95,9 +95,10 @@ std::optional<std::string> QtDesktop::chosenIn(QFileDialog& dialog, const Dialog
   frameDialog(dialog);
   fitInto(roomOn(*dialog.screen()), dialog);
   if (dialog.exec() != QDialog::Accepted) return {};
-  const auto file = dialog.selectedFiles().value(0);
-  writeSetting(kFolders, folderKey(request), fromQt(QFileInfo(file).absolutePath()));
-  return fromQt(QDir::toNativeSeparators(file));
+  const QFileInfo chosen(dialog.selectedFiles().value(0));
+  writeSetting(kFolders, folderKey(request),
+               fromQt(chosen.isDir() ? chosen.absoluteFilePath() : chosen.absolutePath()));
+  return fromQt(QDir::toNativeSeparators(chosen.filePath()));
 }
 
 std::optional<std::string> QtDesktop::askFileToOpen(const DialogRequest& request) {
@@ -117,10 +118,10 @@ std::optional<std::string> QtDesktop::askFileToSave(const DialogRequest& request
 }
 
 std::optional<std::string> QtDesktop::askFolder(const DialogRequest& request) {
-  QFileDialog dialog(parentWindow(), toQt(request.title));
+  QFileDialog dialog(parentWindow(), toQt(request.title), startFolder(request));
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
-  return chosenIn(dialog);
+  return chosenIn(dialog, request);
 }
 
 void QtDesktop::runApart(const std::string& what, const LongWork& work) {
@@ -160,7 +161,8 @@ DateTime QtDesktop::currentTime() {
 }
 
 Picture QtDesktop::readPicture(const std::string& path) {
-  return std::make_shared<ImagePicture>(pictures_.load(toQt(path)));
+  return std::make_shared<ImagePicture>(pictures_.load(toQt(path)),
+                                        QFileInfo(toQt(path)).fileName());
 }
 
 void QtDesktop::open(const std::string& path) {
