@@ -4,6 +4,9 @@
 
 #include "exchange/command.h"
 #include "exchange/process.h"
+#ifdef NAUTREL_WINDOW
+#include "look/application.h"
+#endif
 
 namespace {
 
@@ -19,6 +22,10 @@ nautrel::exchange::LocalTime localTime() {
 
 int main(int count, char** arguments) {
   using namespace nautrel::exchange;
-  return runCommand(programArguments(count, arguments),
-                    {programFolder(), systemLocale(), localTime()}, std::cout, std::cerr);
+  const auto words = programArguments(count, arguments);
+#ifdef NAUTREL_WINDOW
+  if (words.empty() && hasDisplay()) return nautrel::runCompanion(count, arguments);
+#endif
+  if (words.empty() && startWindowProgram()) return kDone;
+  return runCommand(words, {programFolder(), systemLocale(), localTime()}, std::cout, std::cerr);
 }

@@ -26,7 +26,8 @@ set(look_knows platform data/grid.h store/divers_folder.h store/lock.h shell/For
                companion/ExchangeForm.h printing/column_widths.h printing/make_report.h
                printing/report_document.h printing/report_fault.h)
 set(main_knows look/application.h)
-set(exchange_main_knows exchange)
+set(exchange_main_knows exchange look/application.h)
+set(exchange_window_main_knows look/application.h)
 
 cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH root)
 set(wrong 0)

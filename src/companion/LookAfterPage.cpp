@@ -87,7 +87,7 @@ void LookAfterPage::ChooseCopy_Click() {
 
 void LookAfterPage::showCopy() {
   const auto facts = copy_.empty() ? LogbookFacts{} : factsOf(copy_, app_.desktop().locale());
-  CopyName.setCaption(copy_.empty() ? "none chosen yet" : fileNameOf(copy_));
+  CopyName.setCaption(copy_.empty() ? "No copy chosen yet" : fileNameOf(copy_));
   CopyChanged.setCaption(facts.changed);
   CopySize.setCaption(facts.size);
   CopyDives.setCaption(facts.dives);

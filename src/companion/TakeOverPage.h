@@ -46,12 +46,12 @@ class TakeOverPage {
   Label Summary{form_, "Summary"};
   Frame AskDates{form_, "AskDates"};
   Label DatesExample{form_, "DatesExample"};
-  OptionButton DayFirst{form_, "DayFirst"};
-  OptionButton MonthFirst{form_, "MonthFirst"};
+  OptionButton DayFirst{form_, "DayFirst", "the &day"};
+  OptionButton MonthFirst{form_, "MonthFirst", "the &month"};
   Frame AskDurations{form_, "AskDurations"};
   Label DurationsExample{form_, "DurationsExample"};
-  OptionButton MinutesSeconds{form_, "MinutesSeconds"};
-  OptionButton HoursMinutes{form_, "HoursMinutes"};
+  OptionButton MinutesSeconds{form_, "MinutesSeconds", "mi&nutes and seconds"};
+  OptionButton HoursMinutes{form_, "HoursMinutes", "&hours and minutes"};
   Frame AskUnits{form_, "AskUnits"};
   Label UnitsExample{form_, "UnitsExample"};
   OptionButton Metric{form_, "Metric", "met&ric (m, bar, kg, l)"};

@@ -20,4 +20,10 @@ std::string programFolder();
 /// How the user's system writes numbers.
 Locale systemLocale();
 
+/// Whether a window could be shown.
+bool hasDisplay();
+
+/// Starts the window that is a program of its own beside this one; false where it is none.
+bool startWindowProgram();
+
 }  // namespace nautrel::exchange

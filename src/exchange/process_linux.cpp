@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include <clocale>
+#include <cstdlib>
 #include <filesystem>
 
 #include "exchange/plain_text.h"
@@ -31,6 +32,16 @@ Locale systemLocale() {
   if (locale.grouping.empty()) locale.grouping = locale.decimal == "." ? "," : ".";
   std::setlocale(LC_NUMERIC, "C");
   return locale;
+}
+
+bool hasDisplay() {
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    if (const char* value = std::getenv(name); value != nullptr && *value != '\0') return true;
+  return false;
+}
+
+bool startWindowProgram() {
+  return false;
 }
 
 }  // namespace nautrel::exchange

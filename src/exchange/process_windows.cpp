@@ -44,4 +44,22 @@ Locale systemLocale() {
   return {.decimal = sign(LOCALE_SDECIMAL, "."), .grouping = sign(LOCALE_STHOUSAND, ",")};
 }
 
+bool hasDisplay() {
+  return true;
+}
+
+bool startWindowProgram() {
+  const auto program = (nativePath(programFolder()) / "nautrel-exchange-window.exe").wstring();
+  auto line = L"\"" + program + L"\"";
+  STARTUPINFOW start{};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION process{};
+  if (!CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                      &start, &process))
+    return false;
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  return true;
+}
+
 }  // namespace nautrel::exchange

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "app/Nautrel.h"
+#include "companion/Companion.h"
 #include "look/bindings/spoken.h"
 #include "look/convert.h"
 #include "look/frame/qt_looks.h"
@@ -42,6 +43,29 @@ int refuse(std::string_view why, int status) {
   return status;
 }
 
+/// The loop, from the program's start to the end of its windows. Returns the status.
+template <class Kind>
+int run(QtDesktop& desktop, std::unique_ptr<Kind> program) {
+  QtLooks looks(*program);
+  desktop.setLooks(&looks);
+  program->setLooks(&looks);
+  program->start();
+  int status = desktop.ended() ? 0 : QApplication::exec();
+  if (desktop.failure()) status = showFailure(*desktop.failure());
+  // The windows go before what shows them.
+  program.reset();
+  return status;
+}
+
+/// What holds for all of it and is to be known before there is an application.
+void nameApplication() {
+  QApplication::setApplicationName(QString::fromUtf8(kApplicationTitle));
+  QApplication::setApplicationDisplayName(QString());
+  // Task bars find the program's sign and name by its desktop entry.
+  QApplication::setDesktopFileName(QStringLiteral("nautrel"));
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
 }  // namespace
 
 void prepareLook() {
@@ -52,14 +76,9 @@ void prepareLook() {
 }
 
 int runApplication(int argc, char** argv) {
-  QApplication::setApplicationName(QString::fromUtf8(kApplicationTitle));
-  QApplication::setApplicationDisplayName(QString());
+  nameApplication();
   QApplication application(argc, argv);
   prepareLook();
-  // Task bars find the program's sign and name by its desktop entry.
-  QApplication::setDesktopFileName(QStringLiteral("nautrel"));
-  QApplication::setQuitOnLastWindowClosed(false);
-
   QtDesktop desktop;
   auto nautrel = std::make_unique<Nautrel>(desktop);
   const auto folder = desktop.applicationPath();
@@ -67,16 +86,17 @@ int runApplication(int argc, char** argv) {
   const LogbookLock lock(nautrel->databasePath());
   if (lock.isInUse()) return refuse(kLogbookInUse, 0);
   renewTexts(folder);
-  QtLooks looks(*nautrel);
-  desktop.setLooks(&looks);
-  nautrel->setLooks(&looks);
+  return run(desktop, std::move(nautrel));
+}
 
-  nautrel->start();
-  int status = desktop.ended() ? 0 : QApplication::exec();
-  if (desktop.failure()) status = showFailure(*desktop.failure());
-  // The windows go before what shows them.
-  nautrel.reset();
-  return status;
+int runCompanion(int argc, char** argv) {
+  nameApplication();
+  QApplication application(argc, argv);
+  prepareLook();
+  QtDesktop desktop;
+  if (const auto why = makeMissingLogbook(desktop.applicationPath()); !why.empty())
+    return refuse(why, 1);
+  return run(desktop, std::make_unique<exchange::Companion>(desktop));
 }
 
 }  // namespace nautrel

@@ -10,5 +10,7 @@ void prepareLook();
 /// Runs the program in its event loop. Returns the process's status: 3 after a run-time failure,
 /// whose message has been shown by then.
 int runApplication(int argc, char** argv);
+/// The same for the companion's window, which leaves the logbook to others until it writes.
+int runCompanion(int argc, char** argv);
 
 }  // namespace nautrel

@@ -41,9 +41,10 @@ struct Shell : Book {
     if (failed) fs::copy_file(NAUTREL_EXCHANGE, program);
   }
   Said run(const std::string& line) const {
-    const auto command = "cd " + folder.path() +
-                         " && env -u DISPLAY -u WAYLAND_DISPLAY LC_ALL=C ./nautrel-exchange " +
-                         line + " >" + said.file("out") + " 2>" + said.file("err");
+    const auto command =
+        "cd " + folder.path() +
+        " && env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM LC_ALL=C ./nautrel-exchange " +
+        line + " >" + said.file("out") + " 2>" + said.file("err");
     const int status = std::system(command.c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readFile(said.file("out")),
             readFile(said.file("err"))};

@@ -18,11 +18,13 @@
 #include <QToolBar>
 
 #include "app/MDIForm1.h"
+#include "app/Nautrel.h"
 #include "data/grid.h"
 #include "look/convert.h"
 #include "look/frame/form_view.h"
 #include "look/frame/main_frame.h"
 #include "platform/controls.h"
+#include "platform/tick_table.h"
 
 namespace nautrel {
 namespace {
@@ -43,7 +45,7 @@ QRect place(const Form& form) {
 
 class Comparison {
  public:
-  Comparison(Nautrel& app, const QtLooks& looks, bool boxIsOpen)
+  Comparison(Program& app, const QtLooks& looks, bool boxIsOpen)
       : app_(app), looks_(looks), boxIsOpen_(boxIsOpen) {}
 
   std::vector<std::string> run() {
@@ -136,6 +138,7 @@ class Comparison {
       same("value", static_cast<int>(bar->Value()), widget.property("value").toInt());
     if (const auto* shape = dynamic_cast<const Shape*>(&control))
       same("top", toPixels(shape->Top()), widget.y());
+    if (const auto* table = dynamic_cast<const TickTable*>(&control)) ticks(*table, widget);
     if (const auto* grid = dynamic_cast<const Grid*>(&control))
       same("rows", grid->rowCount(),
            static_cast<const QAbstractItemView&>(widget).model()->rowCount());
@@ -180,8 +183,17 @@ class Comparison {
     if (list.ListIndex() >= 0) same("current line", list.ListIndex(), view.currentIndex().row());
   }
 
+  void ticks(const TickTable& table, const QWidget& widget) {
+    const auto& view = static_cast<const QAbstractItemView&>(widget);
+    same("rows", table.rowCount(), view.model()->rowCount());
+    same("current row", table.current(), view.currentIndex().row());
+    for (int row = 0; row < table.rowCount(); ++row)
+      same("tick", table.row(row).ticked,
+           view.model()->index(row, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked);
+  }
+
   void frame() {
-    auto& main = app_.MDIForm1();
+    auto& main = static_cast<Nautrel&>(app_).MDIForm1();
     const auto& window = looks_.mainFrame()->window();
     for (auto* menu : main.menus()) {
       const auto actions = looks_.mainFrame()->menu(*menu).actions();
@@ -204,14 +216,8 @@ class Comparison {
     same("hourglass", main.MousePointer() != 0, QApplication::overrideCursor() != nullptr);
   }
 
-  void focus() {
-    const auto* active = app_.activeForm();
-    const auto* has = QApplication::focusWidget();
-    // Without a window manager none may be active after a menu, and then nobody has the keyboard.
-    if (QApplication::activeWindow() == nullptr) return;
-    if (QApplication::activePopupWidget() != nullptr || qobject_cast<const QMenuBar*>(has) ||
-        looks_.mainFrame() == nullptr || looks_.mainFrame()->window().isMinimized())
-      return;
+  /// False if the window in front has the keyboard itself.
+  bool front(const Form* active, const QWidget* has) {
     where_ = "front";
     const auto* front = looks_.mainFrame()->area().activeSubWindow();
     const auto* view = front == nullptr ? nullptr : looks_.viewAround(front);
@@ -219,7 +225,18 @@ class Comparison {
         active != nullptr && active->name() != "MDIForm1" && active->name() != "Form1";
     same("window", nameOf(child ? active : nullptr), nameOf(view ? &view->form() : nullptr));
     // Minimized, or being moved by keys, the window itself has the keyboard.
-    if (front != nullptr && (front->isMinimized() || has == front)) return;
+    return front == nullptr || (!front->isMinimized() && has != front);
+  }
+
+  void focus() {
+    const auto* active = app_.activeForm();
+    const auto* has = QApplication::focusWidget();
+    // Without a window manager none may be active after a menu, and then nobody has the keyboard.
+    if (QApplication::activeWindow() == nullptr) return;
+    if (QApplication::activePopupWidget() != nullptr || qobject_cast<const QMenuBar*>(has) ||
+        looks_.topWindow() == nullptr || looks_.topWindow()->isMinimized())
+      return;
+    if (looks_.mainFrame() != nullptr && !front(active, has)) return;
     where_ = "focus";
     const auto* around = looks_.viewAround(has);
     const auto* binding = around == nullptr ? nullptr : around->bindingAround(has);
@@ -228,7 +245,7 @@ class Comparison {
          binding == nullptr ? "none" : nameOf(&around->form()) + "." + binding->control().name());
   }
 
-  Nautrel& app_;
+  Program& app_;
   const QtLooks& looks_;
   bool boxIsOpen_;
   std::string where_;
@@ -237,7 +254,7 @@ class Comparison {
 
 }  // namespace
 
-std::vector<std::string> disagreements(Nautrel& app, const QtLooks& looks, bool boxIsOpen) {
+std::vector<std::string> disagreements(Program& app, const QtLooks& looks, bool boxIsOpen) {
   return Comparison(app, looks, boxIsOpen).run();
 }
 

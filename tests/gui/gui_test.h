@@ -20,38 +20,9 @@ bool isOneOf(const QWidget& widget) {
   return ((dynamic_cast<const Kinds*>(&widget) != nullptr) || ...);
 }
 
-/// The program with its real look over the scripted desktop, driven by real widgets and keys.
-class GuiTest : public LogbookTest {
+/// A person at real widgets and keys.
+class AtTheScreen {
  protected:
-  GuiTest() : looks(std::make_unique<QtLooks>(*app)) { app->setLooks(looks.get()); }
-  ~GuiTest() override {
-    app.reset();
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    looks.reset();
-  }
-
-  void start() {
-    LogbookTest::start();
-    settle();
-  }
-  /// A window of the program, opened from the menu.
-  template <class Window>
-  Window& open(MenuItem MDIForm1::*item, Window& (Nautrel::*window)()) {
-    start();
-    click(app->MDIForm1().*item);
-    settle();
-    return (*app.*window)();
-  }
-  /// Each child window in turn, one at a time.
-  void forEveryWindow(const std::function<void(Form&)>& see) {
-    for (int number = 2; number <= 22; ++number) {
-      app->handle([&] { app->show(number); });
-      settle();
-      if (auto* form = app->ifLoaded(number)) see(*form);
-      app->handle([&] { app->unload(number); });
-      settle();
-    }
-  }
   /// Lets the screen come to rest.
   static void settle() {
     for (int i = 0; i < 5; ++i) QApplication::processEvents();
@@ -96,10 +67,47 @@ class GuiTest : public LogbookTest {
   /// A system gives the keyboard back to the window behind when a menu closes.
   QWindow* keyboard() {
     if (QGuiApplication::focusWindow() == nullptr) {
-      looks->mainFrame()->window().activateWindow();
+      looks->topWindow()->activateWindow();
       settle();
     }
     return QGuiApplication::focusWindow();
+  }
+};
+
+/// The program with its real look over the scripted desktop, driven by real widgets and keys.
+class GuiTest : public LogbookTest, protected AtTheScreen {
+ protected:
+  GuiTest() {
+    looks = std::make_unique<QtLooks>(*app);
+    app->setLooks(looks.get());
+  }
+  ~GuiTest() override {
+    app.reset();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    looks.reset();
+  }
+
+  void start() {
+    LogbookTest::start();
+    settle();
+  }
+  /// A window of the program, opened from the menu.
+  template <class Window>
+  Window& open(MenuItem MDIForm1::*item, Window& (Nautrel::*window)()) {
+    start();
+    click(app->MDIForm1().*item);
+    settle();
+    return (*app.*window)();
+  }
+  /// Each child window in turn, one at a time.
+  void forEveryWindow(const std::function<void(Form&)>& see) {
+    for (int number = 2; number <= 22; ++number) {
+      app->handle([&] { app->show(number); });
+      settle();
+      if (auto* form = app->ifLoaded(number)) see(*form);
+      app->handle([&] { app->unload(number); });
+      settle();
+    }
   }
 };
 

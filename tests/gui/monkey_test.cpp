@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include <QAbstractScrollArea>
-#include <QClipboard>
 #include <QDialog>
-#include <QDragEnterEvent>
 #include <QElapsedTimer>
-#include <QInputMethodEvent>
 #include <QMdiSubWindow>
 #include <QMenu>
-#include <QMimeData>
 #include <QTimer>
 #include <QToolBar>
-#include <QWheelEvent>
 #include <algorithm>
 #include <csignal>
 #include <iostream>
@@ -21,25 +16,13 @@
 #include <sstream>
 
 #include "gui/agreement.h"
+#include "gui/companion_test.h"
 #include "gui/gui_test.h"
+#include "gui/hands.h"
 #include "support/budget.h"
 
 namespace nautrel {
 namespace {
-
-class Dice {
- public:
-  explicit Dice(unsigned seed) : engine_(seed) {}
-  int below(int count) { return static_cast<int>(engine_() % static_cast<unsigned>(count)); }
-  bool oneIn(int count) { return below(count) == 0; }
-  template <class Values>
-  auto& of(Values&& values) {
-    return *std::next(std::begin(values), below(static_cast<int>(std::size(values))));
-  }
-
- private:
-  std::mt19937 engine_;
-};
 
 std::vector<std::string> warnings;
 
@@ -61,47 +44,35 @@ class Session : public GuiTest {
   /// What is wrong after the step; empty if nothing is.
   std::vector<std::string> step(unsigned number);
   bool ended() const { return desktop->ended(); }
-  std::ostringstream did;  // in the last step
+  std::string did() const { return hands_.did.str(); }
 
  private:
-  using GuiTest::window;
   void act();
-  void mouse();
-  void key();
-  void type();
-  void bring();
-  void drop(QWindow& top, QPoint place, const QString& text);
   void command();
   void frame();
-  void breakLoops();
   void boxOpens();
-  QWidget& target();
-  QPoint placeIn(const QWidget& widget);
-  QWindow* window() { return looks->mainFrame()->window().windowHandle(); }
 
   unsigned seed_;
-  Dice dice_;
   std::vector<std::string> found_;
-  std::function<void()> letGo_;  // releases the mouse
-  QTimer loops_;
+  Hands hands_{*app, *looks};
 };
 
-Session::Session(unsigned seed) : seed_(seed), dice_(seed) {
-  const int dives = dice_.of(std::initializer_list<int>{0, 1, 2, 30, 30, 300});
+Session::Session(unsigned seed) : seed_(seed) {
+  hands_.dice = Dice(seed);
+  const int dives = hands_.dice.of(std::initializer_list<int>{0, 1, 2, 30, 30, 300});
   addDives(1, dives);
-  if (dice_.oneIn(4)) add(someDive(5));
+  if (hands_.dice.oneIn(4)) add(someDive(5));
   folder.write("file", "picture");
   static const char* const starts[] = {"", "", "Insert dive", "View logbook", "Search a word"};
-  desktop->settings[{"Start", "Window"}] = dice_.of(starts);
-  if (dice_.oneIn(2))
+  desktop->settings[{"Start", "Window"}] = hands_.dice.of(starts);
+  if (hands_.dice.oneIn(2))
     desktop->settings.insert({{{"Start", "Fenster"}, "Ben"},
                               {{"Start", "Breite"}, "11400"},
                               {{"Start", "Höhe"}, "10500"},
                               {{"Start", "Links"}, "300"},
                               {{"Start", "Oben"}, "150"}});
-  desktop->dice = [this](int count) { return dice_.below(count); };
+  desktop->dice = [this](int count) { return hands_.dice.below(count); };
   desktop->whileBoxIsOpen = [this] { boxOpens(); };
-  QObject::connect(&loops_, &QTimer::timeout, &loops_, [this] { breakLoops(); });
   start();
   settle();
 }
@@ -112,16 +83,10 @@ Session::~Session() {
   (void)desktop->failure();
 }
 
-// A menu or a dragged text that runs in a loop of its own would never come back.
-void Session::breakLoops() {
-  if (letGo_) std::exchange(letGo_, nullptr)();
-  if (auto* popup = QApplication::activePopupWidget()) popup->close();
-}
-
 // A real box takes the window's place at the keyboard for a while.
 void Session::boxOpens() {
   for (auto& line : disagreements(*app, *looks, true)) found_.push_back(line + " (box open)");
-  if (looks->mainFrame() == nullptr || !dice_.oneIn(3)) return;
+  if (looks->mainFrame() == nullptr || !hands_.dice.oneIn(3)) return;
   auto& main = looks->mainFrame()->window();
   QDialog box(&main);
   box.setModal(true);
@@ -132,11 +97,9 @@ void Session::boxOpens() {
 }
 
 std::vector<std::string> Session::step(unsigned number) {
-  dice_ = Dice(seed_ * 7919 + number);
-  did.str({});
   found_.clear();
   warnings.clear();
-  loops_.start(30);
+  hands_.begin(seed_ * 7919 + number);
   try {
     if (number > 0) act();
     settle();
@@ -148,7 +111,7 @@ std::vector<std::string> Session::step(unsigned number) {
   } catch (const std::exception& failure) {
     found_.push_back(std::string("an exception: ") + failure.what());
   }
-  loops_.stop();
+  hands_.end();
   found_.insert(found_.end(), warnings.begin(), warnings.end());
   if (!ended()) {
     const auto wrong = disagreements(*app, *looks);
@@ -158,136 +121,23 @@ std::vector<std::string> Session::step(unsigned number) {
 }
 
 void Session::act() {
-  const int kind = dice_.below(100);
+  const int kind = hands_.dice.below(100);
   const bool menuIsOpen = QApplication::activePopupWidget() != nullptr;
-  if (kind < 45) return mouse();
-  if (kind < 67 || menuIsOpen) return key();
-  if (kind < 77) return type();
-  if (kind < 84) return bring();
+  if (kind < 45) return hands_.mouse();
+  if (kind < 67 || menuIsOpen) return hands_.key();
+  if (kind < 77) return hands_.type();
+  if (kind < 84) return hands_.bring();
   if (kind < 92) return command();
   frame();
-}
-
-/// A widget in sight, most often one of the window in front.
-QWidget& Session::target() {
-  QWidget* from = &looks->mainFrame()->window();
-  if (!dice_.oneIn(4) && app->activeForm() != nullptr) from = window(*app->activeForm());
-  if (auto* popup = QApplication::activePopupWidget(); popup != nullptr && !dice_.oneIn(4))
-    from = popup;
-  std::vector<QWidget*> seen{from};
-  for (auto* widget : from->findChildren<QWidget*>())
-    if (!widget->visibleRegion().isEmpty() && !widget->isWindow()) seen.push_back(widget);
-  return *dice_.of(seen);
-}
-
-QPoint Session::placeIn(const QWidget& widget) {
-  const auto seen = widget.visibleRegion().boundingRect();
-  auto place = seen.center();
-  if (!seen.isEmpty() && dice_.oneIn(2))
-    place = seen.topLeft() + QPoint(dice_.below(seen.width()), dice_.below(seen.height()));
-  return widget.mapTo(widget.window(), place);
-}
-
-void Session::mouse() {
-  static const char* const kinds[] = {"click", "click",        "click", "click", "click",
-                                      "click", "double click", "drag",  "drag",  "wheel"};
-  static const Qt::KeyboardModifiers helds[] = {Qt::NoModifier,    Qt::NoModifier,
-                                                Qt::NoModifier,    Qt::NoModifier,
-                                                Qt::ShiftModifier, Qt::ControlModifier};
-  const auto& widget = target();
-  auto* top = widget.window()->windowHandle();
-  const auto place = placeIn(widget);
-  const auto& other = dice_.oneIn(2) ? widget : target();
-  const auto end = other.window() == widget.window() ? placeIn(other) : place;
-  const auto button = dice_.oneIn(6) ? Qt::RightButton : Qt::LeftButton;
-  const auto held = dice_.of(helds);
-  const QString kind = dice_.of(kinds);
-  did << fromQt(kind) << " on " << fromQt(widget.objectName()) << " ("
-      << widget.metaObject()->className() << ") at " << place.x() << ',' << place.y() << " to "
-      << end.x() << ',' << end.y() << ", button " << button << ", held " << held.toInt();
-  if (kind == "click") QTest::mouseClick(top, button, held, place);
-  if (kind == "double click") QTest::mouseDClick(top, button, held, place);
-  if (kind == "drag") {
-    QTest::mousePress(top, button, held, place);
-    letGo_ = [=] { QTest::mouseRelease(top, button, held, end); };
-    QTest::mouseMove(top, (place + end) / 2);
-    if (letGo_) QTest::mouseMove(top, end);
-    if (letGo_) std::exchange(letGo_, nullptr)();
-  }
-  if (kind == "wheel") {
-    QWheelEvent wheel(place, top->mapToGlobal(place), {}, {0, dice_.oneIn(2) ? 120 : -120},
-                      Qt::NoButton, held, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(top, &wheel);
-  }
-}
-
-void Session::key() {
-  static const Qt::Key often[] = {
-      Qt::Key_Tab,       Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Enter,
-      Qt::Key_Escape,    Qt::Key_Space,  Qt::Key_Up,      Qt::Key_Down,   Qt::Key_Left,
-      Qt::Key_Right,     Qt::Key_Home,   Qt::Key_End,     Qt::Key_PageUp, Qt::Key_PageDown,
-      Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Insert,  Qt::Key_F4,     Qt::Key_F6,
-      Qt::Key_F10,       Qt::Key_Minus,  Qt::Key_Menu};
-  static const Qt::KeyboardModifiers held[] = {
-      Qt::NoModifier,    Qt::NoModifier,
-      Qt::NoModifier,    Qt::NoModifier,
-      Qt::ShiftModifier, Qt::ControlModifier,
-      Qt::AltModifier,   Qt::ControlModifier | Qt::ShiftModifier};
-  const int other = dice_.oneIn(8) ? Qt::Key_F1 + dice_.below(4) : Qt::Key_0 + dice_.below(43);
-  const auto code = dice_.oneIn(3) ? static_cast<Qt::Key>(other) : dice_.of(often);
-  const auto modifiers = dice_.of(held);
-  did << "key " << fromQt(QKeySequence(QKeyCombination(modifiers, code)).toString());
-  QTest::keyClick(window(), code, modifiers);
-}
-
-void Session::type() {
-  const QString text = dice_.of(QString("1,12,2,31,1999,3.5,a,land,x y,-1").split(','));
-  did << "type " << fromQt(text);
-  for (const auto character : text) QTest::keyClick(window(), character.toLatin1());
-}
-
-/// A text comes in by another way than the keyboard.
-void Session::bring() {
-  const auto text = dice_.of(QStringList{"1", "12", "0", "3.5", "a", "Land", QString(300, 'x'), " ",
-                                         "one\r\ntwo\n", "\n", "tab\tbell\a", "", "Äöß",
-                                         QString::fromUtf8("\U0001F41F\U0001F420")});
-  const auto& widget = target();
-  auto* receiver = QGuiApplication::focusObject();
-  const int kind = dice_.below(3);
-  did << "bring " << fromQt(text.left(20)) << " way " << kind << ' ' << fromQt(widget.objectName());
-  if (kind == 0) {
-    QApplication::clipboard()->setText(text);
-    QTest::keyClick(window(), Qt::Key_V, Qt::ControlModifier);
-  } else if (kind == 1 && receiver != nullptr) {
-    QInputMethodEvent draft(QStringLiteral("k"), {});
-    QInputMethodEvent commit;
-    if (!dice_.oneIn(4)) commit.setCommitString(text);
-    QApplication::sendEvent(receiver, &draft);
-    QApplication::sendEvent(receiver, &commit);
-  } else {
-    drop(*widget.window()->windowHandle(), placeIn(widget), text);
-  }
-}
-
-void Session::drop(QWindow& top, QPoint place, const QString& text) {
-  QMimeData data;
-  data.setText(text);
-  QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-  QDragMoveEvent move(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-  QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-  QDragLeaveEvent leave;
-  QApplication::sendEvent(&top, &enter);
-  QApplication::sendEvent(&top, &move);
-  QApplication::sendEvent(&top, move.isAccepted() ? static_cast<QEvent*>(&drop) : &leave);
 }
 
 void Session::command() {
   auto actions = looks->mainFrame()->window().findChild<QToolBar*>()->actions();
   for (auto* menu : app->MDIForm1().menus())
     if (menu->visible()) actions += looks->mainFrame()->menu(*menu).actions();
-  auto* action = dice_.of(actions);
-  if (action->text() == "&Close" && !dice_.oneIn(5)) return;
-  did << "command " << fromQt(action->text());
+  auto* action = hands_.dice.of(actions);
+  if (action->text() == "&Close" && !hands_.dice.oneIn(5)) return;
+  hands_.did << "command " << fromQt(action->text());
   action->trigger();
 }
 
@@ -295,11 +145,11 @@ void Session::command() {
 void Session::frame() {
   auto& main = looks->mainFrame()->window();
   const auto children = looks->mainFrame()->area().subWindowList();
-  const QPoint place(dice_.below(700), dice_.below(500));
-  const QSize size(300 + dice_.below(700), 200 + dice_.below(600));
-  if (children.isEmpty() || dice_.oneIn(5)) {
-    const int kind = dice_.below(main.isMaximized() ? 3 : 5);
-    did << "main window, way " << kind;
+  const QPoint place(hands_.dice.below(700), hands_.dice.below(500));
+  const QSize size(300 + hands_.dice.below(700), 200 + hands_.dice.below(600));
+  if (children.isEmpty() || hands_.dice.oneIn(5)) {
+    const int kind = hands_.dice.below(main.isMaximized() ? 3 : 5);
+    hands_.did << "main window, way " << kind;
     if (kind == 0) main.showNormal();
     if (kind == 1) main.showMaximized();
     if (kind == 2) boxOpens();
@@ -307,10 +157,10 @@ void Session::frame() {
     if (kind == 4) main.move(place);
     return;
   }
-  auto* child = dice_.of(children);
+  auto* child = hands_.dice.of(children);
   const bool sizable = child->windowFlags() & Qt::WindowMaximizeButtonHint;
-  const int kind = dice_.below(sizable ? 8 : 5);
-  did << "window " << fromQt(child->windowTitle()) << ", way " << kind;
+  const int kind = hands_.dice.below(sizable ? 8 : 5);
+  hands_.did << "window " << fromQt(child->windowTitle()) << ", way " << kind;
   if (kind == 0) child->showNormal();
   if (kind < 3) looks->mainFrame()->area().setActiveSubWindow(child);
   if (kind == 3) child->move(place);
@@ -318,6 +168,61 @@ void Session::frame() {
   if (kind == 5) child->showMaximized();
   if (kind == 6) child->showMinimized();
   if (kind == 7) child->resize(size);
+}
+
+/// The companion's window under the same hands.
+class CompanionSession : public CompanionTest {
+ public:
+  explicit CompanionSession(unsigned seed);
+  ~CompanionSession() override {
+    app->handle([this] { desktop->end(); });
+  }
+  void TestBody() override {}
+
+  std::vector<std::string> step(unsigned number);
+  bool ended() const { return desktop->ended(); }
+  std::string did() const { return hands_.did.str(); }
+
+ private:
+  void act();
+
+  unsigned seed_;
+  Hands hands_{*app, *looks};
+};
+
+CompanionSession::CompanionSession(unsigned seed) : seed_(seed) {
+  hands_.dice = Dice(seed);
+  std::string file = "Date,Duration,Max Depth,Site\n";
+  for (int line = hands_.dice.below(40); line > 0; --line)
+    file += "0" + std::to_string(1 + hands_.dice.below(9)) +
+            "/04/2020,0:" + std::to_string(10 + hands_.dice.below(50)) + "," +
+            std::to_string(hands_.dice.below(120)) + ",Reef\n";
+  book.folder.write("file.csv", file);
+  desktop->dice = [this](int count) { return hands_.dice.below(count); };
+}
+
+void CompanionSession::act() {
+  const int kind = hands_.dice.below(100);
+  if (kind < 50) return hands_.mouse();
+  if (kind < 75) return hands_.key();
+  if (kind < 83) return hands_.type();
+  if (kind < 90) return hands_.bring();
+  hands_.did << "a file is dropped";
+  form.userDrop(book.folder.file("file.csv"));
+}
+
+std::vector<std::string> CompanionSession::step(unsigned number) {
+  warnings.clear();
+  hands_.begin(seed_ * 7919 + number);
+  if (number > 0) act();
+  settle();
+  if (!ended()) looks->topWindow()->activateWindow();
+  settle();
+  hands_.end();
+  auto found = warnings;
+  if (ended()) return found;
+  for (auto& line : disagreements(*app, *looks)) found.push_back(std::move(line));
+  return found;
 }
 
 struct Failure {
@@ -339,9 +244,10 @@ void tellCrash(int signal) {
   std::raise(signal);
 }
 
+template <class Kind>
 std::optional<Failure> run(unsigned seed, const std::vector<unsigned>& steps) {
   seedNow = seed;
-  Session session(seed);
+  Kind session(seed);
   Failure failure{seed, {}, {}, {}};
   for (const auto number : steps) {
     if (session.ended()) break;
@@ -349,13 +255,14 @@ std::optional<Failure> run(unsigned seed, const std::vector<unsigned>& steps) {
     ++stepsDone;
     failure.found = session.step(number);
     failure.steps.push_back(number);
-    failure.did.push_back(session.did.str());
+    failure.did.push_back(session.did());
     if (!failure.found.empty()) return failure;
   }
   return {};
 }
 
 /// The fewest steps that still show the same.
+template <class Kind>
 Failure shrunk(Failure failure) {
   QElapsedTimer time;
   time.start();
@@ -364,7 +271,7 @@ Failure shrunk(Failure failure) {
       auto fewer = failure.steps;
       fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(from),
                   fewer.begin() + static_cast<std::ptrdiff_t>(from + part));
-      const auto again = run(failure.seed, fewer);
+      const auto again = run<Kind>(failure.seed, fewer);
       if (again && again->kind() == failure.kind())
         failure = *again;
       else
@@ -375,7 +282,7 @@ Failure shrunk(Failure failure) {
 
 std::string report(const Failure& failure) {
   std::ostringstream text;
-  text << "NAUTREL_REPLAY=\"" << failure.seed;
+  text << '"' << failure.seed;
   for (const auto step : failure.steps) text << ' ' << step;
   text << "\"\n";
   for (const auto& line : failure.did) text << "  " << line << '\n';
@@ -383,17 +290,17 @@ std::string report(const Failure& failure) {
   return text.str();
 }
 
-TEST(Monkey, TheScreenSaysWhatTheModelsSay) {
+template <class Kind>
+void play(int sessions, const char* replay) {
   constexpr unsigned kSteps = 100;
-  constexpr int kSessions = 60;
   const auto before = qInstallMessageHandler(keepWarning);
   for (const int signal : {SIGSEGV, SIGABRT, SIGFPE}) std::signal(signal, tellCrash);
-  if (const char* told = std::getenv("NAUTREL_REPLAY")) {
+  if (const char* told = std::getenv(replay)) {
     std::istringstream numbers(told);
     unsigned seed = 0;
     numbers >> seed;
-    const auto failure =
-        run(seed, {std::istream_iterator<unsigned>(numbers), std::istream_iterator<unsigned>()});
+    const auto failure = run<Kind>(
+        seed, {std::istream_iterator<unsigned>(numbers), std::istream_iterator<unsigned>()});
     qInstallMessageHandler(before);
     if (failure) FAIL() << report(*failure);
     return;
@@ -403,13 +310,22 @@ TEST(Monkey, TheScreenSaysWhatTheModelsSay) {
   std::vector<unsigned> steps(kSteps);
   std::iota(steps.begin(), steps.end(), 0U);
   std::map<std::string, int> kinds;
-  for (const Budget budget(kSessions); budget.allows(static_cast<int>(seed - first)); ++seed) {
-    const auto failure = run(seed, steps);
-    if (failure && kinds[failure->kind()]++ == 0) ADD_FAILURE() << report(shrunk(*failure));
+  for (const Budget budget(sessions); budget.allows(static_cast<int>(seed - first)); ++seed) {
+    const auto failure = run<Kind>(seed, steps);
+    if (failure && kinds[failure->kind()]++ == 0)
+      ADD_FAILURE() << replay << "=" << report(shrunk<Kind>(*failure));
   }
   qInstallMessageHandler(before);
   std::cout << stepsDone << " steps, seeds " << first << " to " << seed - 1 << '\n';
   for (const auto& [kind, times] : kinds) std::cout << "  " << times << " times: " << kind << '\n';
+}
+
+TEST(Monkey, TheScreenSaysWhatTheModelsSay) {
+  play<Session>(60, "NAUTREL_REPLAY");
+}
+
+TEST(Monkey, TheCompanionsScreenSaysWhatItsModelSays) {
+  play<CompanionSession>(12, "NAUTREL_REPLAY_COMPANION");
 }
 
 }  // namespace

@@ -20,6 +20,7 @@
 #include "look/bindings/spin_arrows.h"
 #include "look/bindings/table_binding.h"
 #include "look/bindings/text_binding.h"
+#include "look/bindings/tick_table_binding.h"
 #include "look/charts/chart_binding.h"
 #include "look/convert.h"
 #include "look/pictures/picture_view.h"
@@ -345,6 +346,7 @@ std::unique_ptr<Binding> bind(Control& control, QWidget& widget) {
          tryBind<OptionBinding, OptionButton, QRadioButton>(control, widget, made) ||
          tryBind<ListBinding, ListBox, ListView>(control, widget, made) ||
          tryBind<TableBinding, Grid, TableView>(control, widget, made) ||
+         tryBind<TickTableBinding, TickTable, TickTableView>(control, widget, made) ||
          tryBind<ComboBinding, ComboBox, QComboBox>(control, widget, made) ||
          tryBind<TabBinding, TabStrip, QTabWidget>(control, widget, made) ||
          tryBind<SpinBinding, SpinButton, SpinArrows>(control, widget, made) ||

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "ui_ExchangeForm.h"
 #include "ui_Form10.h"
 #include "ui_Form11.h"
 #include "ui_Form12.h"
@@ -58,6 +59,7 @@ constexpr std::pair<std::string_view, Builder> kForms[] = {
     {"Form20", build<Ui::Form20>},
     {"Form21", build<Ui::Form21>},
     {"Form22", build<Ui::Form22>},
+    {"ExchangeForm", build<Ui::ExchangeForm>},
     // clang-format on
 };
 

@@ -42,8 +42,8 @@ Keyboard::Keyboard(Program& program, const QtLooks& looks) : program_(program), 
 }
 
 bool Keyboard::belongsToFrame(const QWidget& widget) const {
-  const auto* frame = looks_.mainFrame();
-  return frame != nullptr && widget.window() == &frame->window() &&
+  const auto* top = looks_.topWindow();
+  return top != nullptr && widget.window() == top &&
          qobject_cast<const QMenuBar*>(&widget) == nullptr;
 }
 
@@ -69,7 +69,8 @@ bool Keyboard::announced(const QWidget& widget, QKeyEvent& key) const {
     return true;
   }
   const QKeySequence keys(key.keyCombination());
-  if (!looks_.mainFrame()->isShortcut(keys)) return false;
+  const auto* frame = looks_.mainFrame();
+  if (frame == nullptr || !frame->isShortcut(keys)) return false;
   if (keys == QKeySequence(Qt::CTRL | Qt::Key_V) && pastesHere(widget)) return false;
   key.ignore();
   return true;

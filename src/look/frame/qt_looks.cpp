@@ -7,7 +7,9 @@
 #include <algorithm>
 
 #include "app/MDIForm1.h"
+#include "companion/ExchangeForm.h"
 #include "look/frame/child_window.h"
+#include "look/frame/companion_window.h"
 #include "look/frame/main_frame.h"
 #include "look/frame/splash_window.h"
 #include "platform/program.h"
@@ -35,7 +37,16 @@ std::unique_ptr<FormLook> QtLooks::make(Form& form) {
     return frame;
   }
   if (dynamic_cast<Form1*>(&form) != nullptr) return std::make_unique<SplashWindow>(*this, form);
+  if (auto* exchange = dynamic_cast<exchange::ExchangeForm*>(&form)) {
+    auto window = std::make_unique<CompanionWindow>(*this, *exchange);
+    companion_ = window->root();
+    return window;
+  }
   return std::make_unique<ChildWindow>(*this, form);
+}
+
+QWidget* QtLooks::topWindow() const {
+  return frame_ != nullptr ? &frame_->window() : companion_.data();
 }
 
 void QtLooks::add(FormView& view) {
@@ -110,7 +121,7 @@ void QtLooks::restyleSoon() {
 // A press anywhere on a child window brings it to the front, before the widget below the mouse
 // answers. Why a widget gets the focus is told to itself alone, just before all are told.
 bool QtLooks::eventFilter(QObject* watched, QEvent* event) {
-  if (frame_ != nullptr && watched == frame_->root() && isOfStyle(*event)) restyleSoon();
+  if (isOfStyle(*event) && watched == topWindow()) restyleSoon();
   if (event->type() == QEvent::FocusIn) focusReason_ = static_cast<QFocusEvent*>(event)->reason();
   if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType())
     if (auto* view = viewAround(static_cast<QWidget*>(watched)))

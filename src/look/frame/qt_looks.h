@@ -3,6 +3,8 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 #include <vector>
 
 #include "look/frame/keyboard.h"
@@ -27,6 +29,8 @@ class QtLooks : public QObject, public Looks {
   void repaintIfDue();
 
   MainFrame* mainFrame() const { return frame_; }
+  /// The main window, or the one that stands in its place; null if there is none.
+  QWidget* topWindow() const;
   FormView* viewOf(const Form& form) const;
   /// The view whose window holds the widget.
   FormView* viewAround(const QWidget* widget) const;
@@ -45,6 +49,7 @@ class QtLooks : public QObject, public Looks {
   Program& program_;
   Keyboard keyboard_;
   MainFrame* frame_ = nullptr;
+  QPointer<QWidget> companion_;
   std::vector<FormView*> views_;
   QElapsedTimer sinceRepaint_;
   Qt::FocusReason focusReason_ = Qt::OtherFocusReason;

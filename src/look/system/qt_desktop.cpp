@@ -66,8 +66,7 @@ QtDesktop::QtDesktop()
 
 QWidget* QtDesktop::parentWindow() const {
   if (auto* modal = QApplication::activeModalWidget()) return modal;
-  return looks_ != nullptr && looks_->mainFrame() != nullptr ? &looks_->mainFrame()->window()
-                                                             : nullptr;
+  return looks_ != nullptr ? looks_->topWindow() : nullptr;
 }
 
 int QtDesktop::showMessage(const std::string& prompt, int style, const std::string& title) {
