@@ -53,10 +53,10 @@ class FiguresTest : public StoreTest {
     return workspace.OpenDatabase(path).OpenRecordset(Tabelle::Logbuch, columns);
   }
 
-  StatisticFigures statistic(const std::vector<Dive>& logbook, const Locale& locale = kPoint) {
+  StatisticFigures statistic(const std::vector<Dive>& logbook) {
     fill(logbook);
     auto rows = dives(statisticColumns());
-    return countStatistic(rows, locale, count());
+    return countStatistic(rows, kPoint, count());
   }
   YearFigures years(const std::vector<Dive>& logbook, int lastYear = 2025) {
     fill(logbook);
@@ -112,36 +112,24 @@ TEST_F(FiguresTest, StatisticSumsAndAverages) {
   }
 }
 
-TEST_F(FiguresTest, StatisticReadsAndWritesAsTheLocaleDoes) {
-  const auto figures = statistic({{"45,5", "12,345"}}, kComma);
-  EXPECT_EQ(figures.wholeDivetime, ",76");
-  EXPECT_EQ(figures.middleDivetime, "45,5");
-  EXPECT_EQ(figures.middleDepth, "12,35");
-  EXPECT_EQ(figures.longest.value, "45,5");
-}
-
-TEST_F(FiguresTest, TheEarlierOfEqualRecordsStays) {
-  const auto figures =
-      statistic({{"50", "90"}, {"70", "100"}, {" 70 ", "100.0"}, {"9", "20"}, {"9", "20"}});
-  EXPECT_EQ(figures.longest.value + " " + figures.longest.number, "70 302");
-  EXPECT_EQ(figures.shortest.value + " " + figures.shortest.number, "9 304");
-  EXPECT_EQ(figures.deepest.value + " " + figures.deepest.number, "100 302");
-  EXPECT_EQ(figures.shallowest.value + " " + figures.shallowest.number, "20 304");
-  EXPECT_EQ(figures.firstNumber.text(kPoint) + " " + figures.lastNumber.text(kPoint), "301 305");
-}
-
-TEST_F(FiguresTest, WhatDoesNotPassTheFirstLimitIsNoRecord) {
+// The earlier of equal records stays, and what does not pass the first limit is none.
+TEST_F(FiguresTest, RecordsAreHeldByTheirDives) {
   const struct {
-    Dive dive;
+    std::vector<Dive> logbook;
     const char *longest, *shortest, *deepest, *shallowest;
   } cases[] = {
-      {{"0", "0"}, "0 0", "0 301", "0 0", "0 301"},
-      {{"999", "999"}, "999 301", "999 0", "999 301", "999 0"},
-      {{"1200", "1000"}, "1200 301", "999 0", "1000 301", "999 0"},
-      {{" 07 ", "-3"}, " 07  301", " 07  301", "0 0", "-3 301"},
+      {{{"50", "90"}, {"70", "100"}, {" 70 ", "100.0"}, {"9", "20"}, {"9", "20"}},
+       "70 302",
+       "9 304",
+       "100 302",
+       "20 304"},
+      {{{"0", "0"}}, "0 0", "0 301", "0 0", "0 301"},
+      {{{"999", "999"}}, "999 301", "999 0", "999 301", "999 0"},
+      {{{"1200", "1000"}}, "1200 301", "999 0", "1000 301", "999 0"},
+      {{{" 07 ", "-3"}}, " 07  301", " 07  301", "0 0", "-3 301"},
   };
-  for (const auto& [dive, longest, shortest, deepest, shallowest] : cases) {
-    const auto figures = statistic({dive});
+  for (const auto& [logbook, longest, shortest, deepest, shallowest] : cases) {
+    const auto figures = statistic(logbook);
     EXPECT_EQ(figures.longest.value + " " + figures.longest.number, longest);
     EXPECT_EQ(figures.shortest.value + " " + figures.shortest.number, shortest);
     EXPECT_EQ(figures.deepest.value + " " + figures.deepest.number, deepest);
