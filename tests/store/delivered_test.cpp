@@ -31,19 +31,6 @@ TEST_F(DeliveredTest, HoldsTheFourTablesAndTheirRows) {
   EXPECT_EQ(otherProgram("PRAGMA user_version"), "1");
 }
 
-TEST_F(DeliveredTest, OrdinalsAndNamesHitTheSameColumn) {
-  addDives(1, 1);
-  auto dives = table();
-  dives.Edit();
-  dives.setField("Süß", true);
-  dives.setField("Höhe", "1200");
-  dives.setField("Grafik", "fish.jpg");
-  dives.Update();
-  EXPECT_TRUE(dives.Fields(Feld::Süß).isYes());
-  EXPECT_EQ(dives.Fields(23), Value("1200"));
-  EXPECT_EQ(dives.Fields(29), Value("fish.jpg"));
-}
-
 TEST_F(DeliveredTest, LeavesWhatIsThereAloneAndNothingElseBehind) {
   addDives(1, 1);
   EXPECT_FALSE(createDeliveredLogbook(path));

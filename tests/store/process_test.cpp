@@ -12,7 +12,6 @@
 #include <csignal>
 #include <functional>
 #include <map>
-#include <random>
 
 #include "store/lock.h"
 #include "store/numbering.h"
@@ -66,12 +65,6 @@ class Child {
   int told_ = 0;
 };
 
-void sleepAtMost(int milliseconds) {
-  static std::mt19937 random(std::random_device{}());
-  usleep(
-      static_cast<useconds_t>(std::uniform_int_distribution<int>(0, milliseconds * 1000)(random)));
-}
-
 /// Permissions bind only those who are not the administrator.
 void becomeDiver() {
   constexpr int kNobody = 65534;
@@ -86,39 +79,7 @@ class ProcessTest : public StoreTest {
       sizes[entry.path().filename().string()] = entry.file_size();
     return sizes;
   }
-  std::string integrity() { return otherProgram("PRAGMA integrity_check"); }
 };
-
-TEST_F(ProcessTest, KilledWhileAppendingKeepsEveryAcknowledgedDive) {
-  int dives = 0;
-  for (int round = 0; round < 25; ++round) {
-    SCOPED_TRACE(round);
-    Child child([&](const Child::Tell& tell) {
-      Workspace own;
-      for (int number = dives + 1;; ++number) {
-        auto rows = own.OpenDatabase(path).OpenRecordset(Tabelle::Logbuch);
-        rows.AddNew();
-        rows.setField("Nr", number);
-        rows.setField("Lang", std::string(static_cast<std::size_t>(number % 50) * 400, 'l'));
-        rows.Update();
-        rows.Close();
-        own.settle();
-        tell(number);
-      }
-    });
-    sleepAtMost(30);
-    child.kill();
-    const int acknowledged = std::max(dives, child.wait());
-    ASSERT_EQ(integrity(), "ok");
-    dives = std::stoi(otherProgram("SELECT count(*) FROM Logbuch"));
-    ASSERT_GE(dives, acknowledged);
-    ASSERT_LE(dives, acknowledged + 1);
-    ASSERT_EQ(otherProgram("SELECT count(*) FROM Logbuch WHERE Nr = rowid AND "
-                           "length(Lang) = 400 * (Nr % 50)"),
-              std::to_string(dives));
-  }
-  EXPECT_GT(dives, 0);
-}
 
 TEST_F(ProcessTest, TwoProgramsOnOneLogbookLoseNothing) {
   const auto append = [&] {
@@ -141,7 +102,7 @@ TEST_F(ProcessTest, TwoProgramsOnOneLogbookLoseNothing) {
   EXPECT_EQ(first.wait(), 0);
   EXPECT_EQ(second.wait(), 1);
   EXPECT_EQ(table().RecordCount(), 300);
-  EXPECT_EQ(integrity(), "ok");
+  EXPECT_EQ(otherProgram("PRAGMA integrity_check"), "ok");
 }
 
 TEST_F(ProcessTest, OfManyWhoMakeTheLogbookOneSucceeds) {
@@ -257,29 +218,6 @@ TEST_F(ProcessTest, AFullDiskIsLookedAtUnlessALogWaits) {
     EXPECT_EQ(child.wait(), crashed ? 0 : -DiskFull);
     EXPECT_TRUE(readFile(path) == before);
   }
-}
-
-TEST_F(ProcessTest, AFullDiskLosesNoAcknowledgedDive) {
-  Child child([&](const Child::Tell& tell) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{400'000, 400'000};
-    setrlimit(RLIMIT_FSIZE, &limit);
-    Workspace own;
-    auto rows = own.OpenDatabase(path).OpenRecordset(Tabelle::Logbuch);
-    for (int number = 1;; ++number) {
-      rows.AddNew();
-      rows.setField("Nr", number);
-      rows.setField("Lang", std::string(3000, 'l'));
-      const int failure = failureOf([&] { rows.Update(); });
-      if (failure == 0) continue;
-      tell(failure == DiskFull ? number - 1 : -failure);
-      return;
-    }
-  });
-  const int acknowledged = child.wait();
-  EXPECT_GT(acknowledged, 10);
-  EXPECT_EQ(integrity(), "ok");
-  EXPECT_EQ(table().RecordCount(), acknowledged);
 }
 
 }  // namespace

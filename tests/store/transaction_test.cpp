@@ -4,14 +4,6 @@
 #include "store/store_test.h"
 #include "support/windows.h"
 
-#if __has_include(<sys/wait.h>)
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <csignal>
-#endif
-
 namespace nautrel {
 namespace {
 
@@ -98,33 +90,6 @@ TEST_F(TransactionTest, AFileExchangedMeanwhileGetsNothing) {
   expectAsBefore();
   EXPECT_EQ(OtherProgram(aside).run("SELECT Nr FROM Logbuch"), "1,2");
 }
-
-#if __has_include(<sys/wait.h>)
-
-TEST_F(TransactionTest, AFullDiskOrADeathInTheMiddleTakesEverythingBack) {
-  for (const bool full : {false, true}) {
-    const pid_t child = fork();
-    if (child == 0) {
-      std::signal(SIGXFSZ, SIG_IGN);
-      const rlimit room{1'000'000, 1'000'000};
-      if (full) setrlimit(RLIMIT_FSIZE, &room);
-      Workspace own;
-      auto opened = own.OpenDatabase(path);
-      Transaction all(opened);
-      const int failure = failureOf([&] { add(opened, 3, 400); });
-      if (full && failure == DiskFull && failureOf([&] { add(opened, 3, 3); }) == InternalError)
-        exit(7);
-      kill(getpid(), SIGKILL);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(full ? WIFEXITED(status) && WEXITSTATUS(status) == 7 : WIFSIGNALED(status));
-    EXPECT_GT(fs::file_size(path + "-wal"), 500'000U) << "it was in the middle";
-    expectAsBefore();
-  }
-}
-
-#endif
 
 }  // namespace
 }  // namespace nautrel
