@@ -41,10 +41,7 @@ class ExchangedFile : public LogbookTest, public ::testing::WithParamInterface<b
     app.reset();
     EXPECT_TRUE(readFile(folder.file("before.mdb")) == contents.first);
     EXPECT_EQ(fs::exists(path), !removed());
-    if (removed()) return;
-    EXPECT_TRUE(readFile(path) == contents.second);
-    EXPECT_EQ(column("Nr"), Texts{"7"});
-    EXPECT_TRUE(readFile(path) == contents.second);
+    EXPECT_TRUE(removed() || readFile(path) == contents.second);
   }
   void expectEnded() {
     ASSERT_TRUE(desktop->failure());
@@ -77,18 +74,6 @@ TEST_P(ExchangedFile, DeleteDiveEndsTheProgramEvenUnderItsQuestion) {
   desktop->whileBoxIsOpen = [&] { exchange(); };
   click(form.Command1);
   EXPECT_EQ(desktop->texts(), Texts{"Delete this dive?"});
-  expectEnded();
-}
-
-TEST_P(ExchangedFile, DeleteDivesEndsTheProgram) {
-  startAt(&MDIForm1::Menü2c);
-  auto& form = app->Form5();
-  choose(form.SSTab1, 1);
-  type(form.Text6, "1");
-  type(form.Text7, "2");
-  desktop->answer(kYes);
-  desktop->whileBoxIsOpen = [&] { exchange(); };
-  click(form.Command4);
   expectEnded();
 }
 

@@ -37,34 +37,27 @@ TEST_F(LogbookTable, ShowsEveryColumnUnderItsRawName) {
             (Texts{"True", "False", ""}));
 }
 
-TEST_F(LogbookTable, LookingAtItMovesNoRow) {
+TEST_F(LogbookTable, LookingAtItMovesNoRowAndOneThatIsGoneIsEmpty) {
   addDives(1, 5);
   auto& form = open();
   int moves = 0;
   form.Data1.Reposition = [&] { ++moves; };
-  form.MSFlexGrid1.row(4);
-  form.MSFlexGrid1.row(1);
+  EXPECT_EQ(form.MSFlexGrid1.row(4)[Feld::Ort], "Ort 5");
+  deleteElsewhere("Logbuch", 1);
+  EXPECT_EQ(form.MSFlexGrid1.row(1)[Feld::Ort], "");
+  EXPECT_EQ(form.MSFlexGrid1.row(2)[Feld::Ort], "Ort 3");
   EXPECT_EQ(moves, 0);
   EXPECT_EQ(form.Data1.Recordset().AbsolutePosition(), 0);
-}
-
-TEST_F(LogbookTable, ARowThatIsGoneIsEmptyAndTheNextOneIsRead) {
-  addDives(1, 3);
-  auto& grid = open().MSFlexGrid1;
-  deleteElsewhere("Logbuch", 1);
-  EXPECT_EQ(grid.row(1)[Feld::Ort], "");
-  EXPECT_EQ(grid.row(2)[Feld::Ort], "Ort 3");
 }
 
 TEST_F(LogbookTable, TheGridFollowsTheWindowAndAMinimizedOneIsIgnored) {
   addDives(1, 1);
   auto& form = open();
-  form.userResized(0, 0, 9000, 6000);
-  EXPECT_EQ(form.MSFlexGrid1.Width(), 8860);
-  EXPECT_EQ(form.MSFlexGrid1.Height(), 5600);
-  form.userResized(0, 0, 100, 300);
-  EXPECT_EQ(form.MSFlexGrid1.Width(), 8860);
-  EXPECT_EQ(form.MSFlexGrid1.Height(), 5600);
+  for (const auto& [width, height] : {std::pair{9000, 6000}, {100, 300}}) {
+    form.userResized(0, 0, width, height);
+    EXPECT_EQ(form.MSFlexGrid1.Width(), 8860);
+    EXPECT_EQ(form.MSFlexGrid1.Height(), 5600);
+  }
 }
 
 }  // namespace

@@ -162,16 +162,5 @@ TEST_F(InsertDive, TheNumberFollowsTheLastRowAndNotTheHighest) {
   EXPECT_EQ(desktop->texts(), Texts{});
 }
 
-TEST_F(InsertDive, ALogbookThatCannotBeReachedEndsTheProgramAndKeepsItsDives) {
-  addDives(1, 3);
-  auto& form = open();
-  fill(form);
-  ASSERT_EQ(rename(folder.file("Logbuch.mdb").c_str(), folder.file("aside").c_str()), 0);
-  click(form.Command1);
-  EXPECT_EQ(desktop->failure()->number, DatabaseNotFound);
-  ASSERT_EQ(rename(folder.file("aside").c_str(), folder.file("Logbuch.mdb").c_str()), 0);
-  EXPECT_EQ(column("Nr"), (Texts{"1", "2", "3"}));
-}
-
 }  // namespace
 }  // namespace nautrel

@@ -98,27 +98,6 @@ TEST_F(EditDives, AnEmptyRequiredBoxKeepsTheWindowAndTheRow) {
   EXPECT_EQ(column("Tiefe"), (Texts{"20", "60"}));
 }
 
-TEST_F(EditDives, AJumpGoesByTheDifferenceOfNumbers) {
-  addDives(11, 15);
-  auto& form = open();
-  const struct {
-    const char *answer, *arrives;
-    bool atTheCountry = true;  // where the focus is afterwards
-  } cases[] = {{"12", "12"}, {"15", "15"}, {" 15 ", "15"},       {"11", "11"},
-               {"0", "13"},  {"16", "13"}, {"abc", "13", false}, {"", "13", false}};
-  for (const auto& [answer, arrives, atTheCountry] : cases) {
-    press(form.Data1, Navigator::Arrow::First);
-    form.Data1.Recordset().Move(2);
-    desktop->answerInput(answer);
-    click(form.Command4);
-    EXPECT_EQ(desktop->inputPrompts.back(),
-              "Jump to dive-#: Please enter a dive number between 11 and 15!");
-    EXPECT_EQ(form.Text1.text(), arrives) << answer;
-    EXPECT_EQ(form.activeControl() == &form.Text2, atTheCountry) << answer;
-    EXPECT_EQ(desktop->texts(), Texts{});
-  }
-}
-
 TEST_F(EditDives, TheLinkedPictureComesAndGoesWithItsDive) {
   auto linked = someDive(1);
   linked["Grafik"] = folder.write("reef.jpg", "picture");
@@ -133,19 +112,6 @@ TEST_F(EditDives, TheLinkedPictureComesAndGoesWithItsDive) {
   EXPECT_EQ(form.Text21.text(), "gone.jpg");
   click(form.Command1);
   EXPECT_EQ(column("Grafik").back(), "gone.jpg");
-}
-
-TEST_F(EditDives, ARowThatAnotherProgramDeletedEndsTheProgramAndNothingElse) {
-  addDives(1, 3);
-  auto& form = open();
-  press(form.Data1, Navigator::Arrow::Next);
-  deleteElsewhere("Logbuch", 1);
-  type(form.Text2, "Egypt");
-  click(form.Command1);
-  ASSERT_TRUE(desktop->failure());
-  EXPECT_EQ(desktop->failure()->number, RecordDeleted);
-  EXPECT_EQ(rows("Logbuch", {"Nr", "Land"}),
-            (std::vector<Texts>{{"1", "Land 1"}, {"3", "Land 3"}}));
 }
 
 }  // namespace

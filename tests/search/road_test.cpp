@@ -13,12 +13,11 @@ constexpr int kSearches[] = {12, 14, 20};
 struct Record {
   int window;
   OptionButton SearchForm::*option;
-  const char* caption;
   const char* mode;
 };
-constexpr Record kRecords[] = {{3, &SearchForm::Option1, "View", "anzeigen"},
-                               {4, &SearchForm::Option2, "Edit", "bearbeiten"},
-                               {5, &SearchForm::Option3, "Delete", "löschen"}};
+constexpr Record kRecords[] = {{3, &SearchForm::Option1, "anzeigen"},
+                               {4, &SearchForm::Option2, "bearbeiten"},
+                               {5, &SearchForm::Option3, "löschen"}};
 
 class RoadTest : public SearchTest {
  protected:
@@ -70,8 +69,8 @@ TEST_P(Road, LeadsFromTheHitToTheDiveAndBack) {
   startWithHits();
   auto& search = found(searchWindow);
   click(search.*record.option);
-  if (record.window != 3) {
-    EXPECT_EQ(search.Command3.caption(), record.caption);
+  if (record.window == 4) {
+    EXPECT_EQ(search.Command3.caption(), "Edit");
   }
   click(search.List1, 1);
   click(search.Command3);
@@ -91,7 +90,6 @@ TEST_P(Road, LeadsFromTheHitToTheDiveAndBack) {
   EXPECT_EQ(list.Width(), Form19::kListWidth + 100);
   EXPECT_EQ(list.Height(), form.Height());
   EXPECT_EQ(list.Left(), form.Left() - list.Width());
-  EXPECT_EQ(list.Top(), form.Top());
 
   for (const int line : {2, 0, 3}) {
     click(list.List1, line);
@@ -115,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(Nine, Road,
                          ::testing::Combine(::testing::ValuesIn(kSearches),
                                             ::testing::ValuesIn(kRecords)));
 
-TEST_F(RoadTest, BeginsWithADoubleClickAndNotWithoutASelectedLine) {
+TEST_F(RoadTest, BeginsWithADoubleClickAndNotWithoutASelectedLineAndAnEmptyListEndsTheProgram) {
   startWithHits();
   auto& search = found(12);
   click(search.Command3);
@@ -124,33 +122,14 @@ TEST_F(RoadTest, BeginsWithADoubleClickAndNotWithoutASelectedLine) {
   doubleClick(search.List1, 3);
   EXPECT_EQ(shownDive(3), "8");
   EXPECT_EQ(search.Frame2.caption(), "Dive 8");
-}
-
-TEST_F(RoadTest, DoubleClickOnAnEmptyListEndsTheProgram) {
-  startWithHits();
-  doubleClick(words().List1, -1);
+  doubleClick(numbers().List1, -1);
   ASSERT_TRUE(desktop->failure());
   EXPECT_EQ(desktop->failure()->number, TypeMismatch);
 }
 
-TEST_F(RoadTest, TakenTwiceFillsTheListTwiceAndClosingTheSearchTakesItAwayAndLeavesTheDive) {
+TEST_F(RoadTest, TakenTwiceFillsTheListTwiceAndClosingTheSearchLeavesTheDiveAndItsInput) {
   startWithHits();
   auto& search = found(20);
-  doubleClick(search.List1, 0);
-  search.userState(WindowState::Normal);
-  doubleClick(search.List1, 2);
-  EXPECT_EQ(shownDive(3), "6");
-  EXPECT_EQ(app->Form19().List1.lines(), (Texts{"2", "4", "6", "8", "2", "4", "6", "8"}));
-  close(search);
-  EXPECT_FALSE(app->loaded(19));
-  EXPECT_TRUE(app->Form3().visible());
-  click(app->Form3().Command3);
-  EXPECT_FALSE(app->loaded(20));
-}
-
-TEST_F(RoadTest, AHitInAnotherWindowLeavesTheFirstAndItsInputAlone) {
-  startWithHits();
-  auto& search = found(12);
   click(search.Option2);
   doubleClick(search.List1, 0);
   auto& edited = app->Form4();
@@ -162,6 +141,12 @@ TEST_F(RoadTest, AHitInAnotherWindowLeavesTheFirstAndItsInputAlone) {
   EXPECT_EQ(shownDive(3), "6");
   EXPECT_EQ(shownDive(4), "2");
   EXPECT_EQ(edited.Text4.text(), typed);
+  EXPECT_EQ(app->Form19().List1.lines(), (Texts{"2", "4", "6", "8", "2", "4", "6", "8"}));
+  close(search);
+  EXPECT_FALSE(app->loaded(19));
+  EXPECT_TRUE(app->Form3().visible());
+  click(app->Form3().Command3);
+  EXPECT_FALSE(app->loaded(20));
 }
 
 TEST_F(RoadTest, ListKeepsTheOldNumbersAfterADeletionAndFindsTheDivesThatHaveThemNow) {
