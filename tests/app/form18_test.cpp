@@ -45,17 +45,26 @@ class Preferences : public LogbookTest {
   MDIForm1& frame() { return app->MDIForm1(); }
 };
 
-TEST_F(Preferences, TheFirstRunShowsTheDesign) {
-  auto& form = open();
-  EXPECT_EQ(form.Picture1.BackColor(), kGrey);
-  EXPECT_EQ(form.Combo1.text(), "");
-  EXPECT_EQ(form.Text1.text(), "");
-  EXPECT_TRUE(form.Option1.on());
-  EXPECT_FALSE(sizeEnabled(form));
-  EXPECT_EQ(values(form), Texts(4, "---"));
-  EXPECT_FALSE(form.Command4.enabled());
-  click(form.Command3);
-  EXPECT_FALSE(app->loaded(18));
+TEST_F(Preferences, WithoutReadableSettingsItShowsTheDesignAndACancelledDialogChangesNothing) {
+  const Settings rubbish = {{{"Colors", "Main"}, "blue"},
+                            {{"Start", "Window"}, "calculations"},
+                            {{"Start", "Fenster"}, "ben"},
+                            {{"Start", "Breite"}, "wide"}};
+  start();
+  for (const auto& settings : {rubbish, Settings()}) {
+    desktop->settings = settings;
+    auto& form = reopen();
+    desktop->answerColor({}).answerFile({});
+    form.Picture1.userClick();
+    click(form.Command5);
+    EXPECT_EQ(form.Picture1.BackColor(), kGrey);
+    EXPECT_EQ(form.Combo1.text() + form.Text1.text(), "");
+    EXPECT_TRUE(form.Option1.on());
+    EXPECT_FALSE(sizeEnabled(form) || form.Command4.enabled());
+    EXPECT_EQ(values(form), Texts(4, "---"));
+    click(form.Command3);
+    EXPECT_FALSE(app->loaded(18));
+  }
   EXPECT_EQ(desktop->settings, (Settings{{{"Colors", "Main"}, "12632256"},
                                          {{"Start", "Window"}, ""},
                                          {{"Start", "Fenster"}, "Max"},
@@ -122,16 +131,6 @@ TEST_F(Preferences, AnEditFreesSaveChanges) {
     EXPECT_TRUE(form.Command4.enabled());
     close(form);
   }
-}
-
-TEST_F(Preferences, ADialogThatIsCancelledChangesNothing) {
-  auto& form = open();
-  desktop->answerColor({}).answerFile({});
-  form.Picture1.userClick();
-  click(form.Command5);
-  EXPECT_EQ(form.Picture1.BackColor(), kGrey);
-  EXPECT_EQ(form.Text1.text(), "");
-  EXPECT_FALSE(form.Command4.enabled());
 }
 
 TEST_F(Preferences, TheSizeFollowsAPressAndTheMainWindowButNoArrowKey) {
@@ -220,18 +219,6 @@ TEST_F(Preferences, APathThatCannotBeLoadedEndsTheProgramAfterTheSettings) {
   EXPECT_EQ(desktop->failure()->number, FileNotFound);
   EXPECT_EQ(setting("Start", "Grafic"), "gone.bmp");
   EXPECT_EQ(setting("Colors", "Main"), "12632256");
-}
-
-TEST_F(Preferences, SettingsEditedToRubbishLeaveTheControlsAsTheyWere) {
-  desktop->settings = {{{"Colors", "Main"}, "blue"},
-                       {{"Start", "Window"}, "calculations"},
-                       {{"Start", "Fenster"}, "ben"},
-                       {{"Start", "Breite"}, "wide"}};
-  auto& form = open();
-  EXPECT_EQ(form.Picture1.BackColor(), kGrey);
-  EXPECT_EQ(form.Combo1.text(), "");
-  EXPECT_TRUE(form.Option1.on());
-  EXPECT_EQ(values(form), Texts(4, "---"));
 }
 
 }  // namespace

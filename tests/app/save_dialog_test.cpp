@@ -2,7 +2,6 @@
 #include <filesystem>
 #include <fstream>
 
-#include "printing/Form9.h"
 #include "support/logbook.h"
 #include "support/unwritable.h"
 
@@ -128,16 +127,6 @@ TEST_F(SaveDialog, ChecksAndAsksAboutTheFinalName) {
   desktop->answerFile(folder.file("own")).answerFile({});
   EXPECT_EQ(desktop->saveFile(pdf), std::nullopt);
   EXPECT_EQ(desktop->texts(), Texts{belongs(folder.file("own.pdf"))});
-}
-
-TEST_F(SaveDialog, KeepsTheLogbookFromThePrintedList) {
-  click(app->MDIForm1().Menü1a);
-  const auto before = readFile(folder.file("Logbuch.mdb"));
-  fs::create_hard_link(folder.file("Logbuch.mdb"), folder.file("list.txt"));
-  desktop->answerFile(folder.file("list.txt")).answerFile({});
-  click(app->Form9().Command3);
-  EXPECT_EQ(desktop->texts(), Texts{belongs(folder.file("list.txt"))});
-  EXPECT_EQ(readFile(folder.file("Logbuch.mdb")), before);
 }
 
 }  // namespace

@@ -102,7 +102,6 @@ TEST_F(Equipment, NumbersMayRepeatAndAnEmptyItemIsStored) {
   press(form.Data1, Navigator::Arrow::Next);
   desktop->answer(kYes);
   click(form.Command2);
-  EXPECT_EQ(desktop->messages(), std::vector<Shown>{kQuestion});
   EXPECT_EQ(form.Text1.text(), "Item 1");
   EXPECT_EQ(form.caption(), "Dive equipment - records: 2");
   click(form.Command1);
@@ -110,13 +109,10 @@ TEST_F(Equipment, NumbersMayRepeatAndAnEmptyItemIsStored) {
   EXPECT_EQ(form.Text8.text(), "3");
   EXPECT_EQ(rows("Ausrüstung", {"Nr"}), (Rows{{"1"}, {"3"}, {"3"}}));
   EXPECT_EQ(rows("Ausrüstung", kColumns).at(2), (Texts{"", "", "", "", "", "", "", "3", ""}));
-}
-
-TEST_F(Equipment, DeletingTheLastItemEmptiesEveryBox) {
-  addItem("Fins", "4");
-  auto& form = open();
-  desktop->answer(kYes);
-  click(form.Command2);
+  for (int item = 0; item < 3; ++item) {
+    desktop->answer(kYes);
+    click(form.Command2);
+  }
   EXPECT_EQ(shown(form), Texts(9, ""));
   EXPECT_EQ(form.caption(), "Dive equipment - records: 0");
 }
