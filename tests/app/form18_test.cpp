@@ -180,34 +180,40 @@ TEST_F(Preferences, AFreeSizeThatWasNeverShownIsThePresentOne) {
   }
 }
 
-// The picture of a path that is gone stays as it is, and so does any under a colour that is none.
-TEST_F(Preferences, CancelPutsColorAndPictureBack) {
+// A picture whose path is gone stays as it is, and so does any under a colour that is none.
+TEST_F(Preferences, TheMainWindowTakesColorAndPictureFromTheSettingsAndCancelPutsThemBack) {
   struct Case {
     const char *color, *grafic;
-    long colorAfter;
-    const char* pictureAfter;
+    long shown;
+    const char *atStart, *afterCancel;
   };
   const auto newPicture = folder.write("new.bmp", "picture");
   folder.write("old.bmp", "picture");
-  start();
+  const auto pathIn = [&](const char* name) { return *name == '\0' ? "" : folder.file(name); };
   for (const auto& item :
-       {Case{"128", "old.bmp", 128, "old.bmp"}, Case{"", "old.bmp", kGrey, "new.bmp"},
-        Case{"red", "old.bmp", kGrey, "new.bmp"}, Case{"9999999999", "old.bmp", kGrey, "new.bmp"},
-        Case{"128", "gone.bmp", 128, "new.bmp"}}) {
+       {Case{"128", "old.bmp", 128, "old.bmp", "old.bmp"},
+        Case{"", "old.bmp", kGrey, "", "new.bmp"}, Case{"red", "old.bmp", kGrey, "", "new.bmp"},
+        Case{"9999999999", "old.bmp", kGrey, "", "new.bmp"},
+        Case{"128", "gone.bmp", 128, "", "new.bmp"}}) {
     SCOPED_TRACE(item.color);
-    desktop->settings.clear();
+    const Settings settings = {{{"Colors", "Main"}, item.color},
+                               {{"Start", "Grafic"}, folder.file(item.grafic)}};
+    desktop->settings = settings;
+    restart();
+    EXPECT_EQ(frame().BackColor(), item.shown);
+    EXPECT_EQ(pathOf(frame().picture()), pathIn(item.atStart));
     auto& form = reopen();
     desktop->answerColor(77);
     form.Picture1.userClick();
     EXPECT_EQ(frame().BackColor(), 77);
+    clear(form.Text1);
     type(form.Text1, newPicture);
     click(form.Command4);
-    setting("Colors", "Main") = item.color;
-    setting("Start", "Grafic") = folder.file(item.grafic);
+    desktop->settings = settings;
     press(form, Key::Escape);
     EXPECT_FALSE(app->loaded(18));
-    EXPECT_EQ(frame().BackColor(), item.colorAfter);
-    EXPECT_EQ(pathOf(frame().picture()), folder.file(item.pictureAfter));
+    EXPECT_EQ(frame().BackColor(), item.shown);
+    EXPECT_EQ(pathOf(frame().picture()), pathIn(item.afterCancel));
   }
 }
 

@@ -114,25 +114,6 @@ TEST_F(MainWindow, TheWindowsOfTheExclusiveSetCloseEachOther) {
   EXPECT_EQ(desktop->texts(), Texts{});
 }
 
-TEST_F(MainWindow, TakesColourAndPictureFromTheSettings) {
-  struct Case {
-    const char* color;
-    std::string grafic;
-    long shown;
-    std::string picture;
-  };
-  const auto picture = folder.write("reef.bmp", "picture");
-  for (const auto& item :
-       {Case{"255", picture, 255, picture}, Case{"255", folder.file("gone.bmp"), 255, ""},
-        Case{"", picture, 12632256, ""}, Case{"red", picture, 12632256, ""}}) {
-    SCOPED_TRACE(item.color);
-    desktop->settings = {{{"Colors", "Main"}, item.color}, {{"Start", "Grafic"}, item.grafic}};
-    restart();
-    EXPECT_EQ(frame().BackColor(), item.shown);
-    EXPECT_EQ(pathOf(frame().picture()), item.picture);
-  }
-}
-
 TEST_F(MainWindow, AFreeSizeIsTakenFromTheSettingsAndRubbishInItEndsTheProgram) {
   desktop->settings = {{{"Start", "Fenster"}, "Ben"},
                        {{"Start", "Breite"}, "10000"},

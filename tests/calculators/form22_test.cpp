@@ -79,6 +79,7 @@ TEST_F(Calculations, DrawTheSceneOfEveryWayToGo) {
       {{"33", "0", "1", "1"}, 40, true, true, false, "0 ft", "33 ft", "50% air escapes"},
       {{"10", "10", "1", "1"}, 40, false, true, true, "10 ft", "10 ft", "50% air escapes"},
       {{"x", "10", "1", "1"}, 40, true, true, true, "10 ft", "x ft", "50% air escapes"},
+      {{"10", "x", "1", "1"}, 40, true, true, true, "x ft", "10 ft", "50% air escapes"},
       // The share that escapes comes from the rounded volume.
       {{"66", "0", "12", "1.2"}, 40, true, true, false, "0 ft", "66 ft", "67% air escapes"},
       {{"1", "0", "0.1", "1"}, 40, true, true, false, "0 ft", "1 ft", "% air escapes"},

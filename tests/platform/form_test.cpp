@@ -117,21 +117,17 @@ TEST_F(FormTest, ARuleMayKeepTheFocusOrSendItElsewhere) {
   EXPECT_EQ(window.taken(), (Texts{"-First", "+Check"}));
 }
 
-TEST_F(FormTest, DisablingOrHidingWhatHasTheFocusMovesItOn) {
+TEST_F(FormTest, WhatIsDisabledHiddenOrOnAPageBehindTakesNoFocusAndEscWorksFromEveryPage) {
   auto& window = shown();
+  window.Behind.SetFocus();
+  EXPECT_EQ(window.activeControl(), &window.First);
+  EXPECT_EQ(window.Pages.Tab(), 0);
   window.First.setEnabled(false);
   EXPECT_EQ(window.activeControl(), &window.Second);
   window.Second.setVisible(false);
   EXPECT_EQ(window.activeControl(), &window.Press);
   for (auto* control : {&window.First, &window.Second})
     EXPECT_EQ(failureOf([&] { control->SetFocus(); }), InvalidCall);
-}
-
-TEST_F(FormTest, APageBehindTakesNoFocusAndEscWorksFromEveryPage) {
-  auto& window = shown();
-  window.Behind.SetFocus();
-  EXPECT_EQ(window.activeControl(), &window.First);
-  EXPECT_EQ(window.Pages.Tab(), 0);
   choose(window.Pages, 1);
   type(window.Behind, "x");
   EXPECT_EQ(window.Behind.text(), "x");
@@ -239,19 +235,23 @@ TEST_F(FormTest, AnUnloadedWindowForgetsAndTheNextOneIsNew) {
   EXPECT_EQ(run.activeForm(), nullptr);
 }
 
-TEST_F(FormTest, LoadAndUnloadAreRoots) {
+TEST_F(FormTest, LoadAndUnloadAreRootsAndAfterTheFatalEndNothingRunsOn) {
   run.onUnload = [](Window&) { raise(TypeMismatch); };
-  shown();
+  auto& window = shown();
   bool wentOn = false;
-  run.handle([&] {
+  window.Press.Click = [&] {
     resumeNext([&] { run.unload(1); });
     wentOn = true;
-  });
+  };
+  click(window.Press);
   EXPECT_FALSE(wentOn);
   EXPECT_EQ(desktop.failure()->number, TypeMismatch);
+  window.taken();
+  type(window.Second, "x");
+  EXPECT_EQ(window.taken(), Texts{});
 }
 
-TEST_F(FormTest, AfterTheFatalEndNothingRunsOn) {
+TEST_F(FormTest, AFatalEndUnderABoxEndsWhatAskedToo) {
   auto& window = shown();
   bool wroteOn = false;
   desktop.whileBoxIsOpen = [&] { run.handle([] { raise(Overflow); }); };
@@ -262,9 +262,6 @@ TEST_F(FormTest, AfterTheFatalEndNothingRunsOn) {
   click(window.Press);
   EXPECT_FALSE(wroteOn);
   EXPECT_EQ(desktop.failure()->number, Overflow);
-  window.taken();
-  type(window.Second, "x");
-  EXPECT_EQ(window.taken(), Texts{});
 }
 
 TEST_F(FormTest, ChangingTheWindowRaisesNoFocusEventAndADisabledOneTakesNoInput) {
@@ -355,17 +352,21 @@ class BrokenLooks : public Looks {
   void flush() override { throw std::logic_error("no screen"); }
 };
 
-TEST(Edge, WhateverFliesOutOfAnActionEndsTheProgramThere) {
+TEST(Edge, WhateverFliesOutOfAnActionOrOfTheScreenEndsTheProgramThere) {
   const std::tuple<int, std::string, std::function<void()>> cases[] = {
       {13, "Type mismatch", [] { raise(TypeMismatch); }},
       {7, "Out of memory", [] { throw std::bad_alloc(); }},
       {51, "Internal error: lost", [] { throw std::logic_error("lost"); }},
-      {51, "Internal error", [] { throw 1; }}};
+      {51, "Internal error", [] { throw 1; }},
+      {51, "Internal error: no screen", {}}};
   for (const auto& [number, text, fault] : cases) {
     ScriptedDesktop desktop({});
+    BrokenLooks looks;
     Scene scene(desktop);
     auto& window = scene.open();
-    window.Press.Click = [&, fault = fault] { resumeNext([&] { scene.handle(fault); }); };
+    window.Press.Click = [&, fault = fault] {
+      fault ? resumeNext([&] { scene.handle(fault); }) : scene.setLooks(&looks);
+    };
     window.Show();
     click(window.Press);
     ASSERT_TRUE(desktop.failure()) << text;
@@ -373,16 +374,6 @@ TEST(Edge, WhateverFliesOutOfAnActionEndsTheProgramThere) {
     EXPECT_EQ(desktop.failure()->text, text);
     EXPECT_FALSE(scene.handling());
   }
-}
-
-TEST(Edge, AScreenThatCannotFollowEndsTheProgramToo) {
-  ScriptedDesktop desktop({});
-  BrokenLooks looks;
-  Scene scene(desktop);
-  scene.setLooks(&looks);
-  scene.handle([] {});
-  ASSERT_TRUE(desktop.failure());
-  EXPECT_EQ(desktop.failure()->text, "Internal error: no screen");
 }
 
 }  // namespace

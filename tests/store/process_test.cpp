@@ -165,35 +165,30 @@ TEST_F(ProcessTest, WhereNothingCanBeLockedTheLogbookIsFree) {
   EXPECT_EQ(guest.wait(), 2);
 }
 
-TEST_F(ProcessTest, AReadOnlyFolderFailsAtOpening) {
+TEST_F(ProcessTest, AReadOnlyFolderFailsAtOpeningAndAReadOnlyFileWhenItIsChanged) {
+  using fs::perms;
   addDives(1, 1);
-  fs::permissions(path, fs::perms::all);
-  fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
-                              fs::perms::others_exec);
   const auto before = files();
-  Child child([&](const Child::Tell&) {
-    becomeDiver();
-    Workspace().OpenDatabase(path);
-  });
-  EXPECT_EQ(child.wait(), -CannotOpenFile);
-  EXPECT_EQ(files(), before);
-  fs::permissions(folder, fs::perms::owner_all);
-}
-
-TEST_F(ProcessTest, AReadOnlyFileIsReadAndNotWritten) {
-  addDives(1, 1);
-  fs::permissions(folder, fs::perms::all);
-  fs::permissions(path, fs::perms::owner_read | fs::perms::others_read);
-  const auto before = files();
-  for (const bool adding : {false, true}) {
+  const auto failureOfDiver = [&](auto change) {
     Child child([&](const Child::Tell&) {
       becomeDiver();
       Workspace own;
       auto dives = own.OpenDatabase(path).OpenDynaset(Tabelle::Logbuch);
-      adding ? dives.AddNew() : dives.Edit();
+      change(dives);
     });
-    EXPECT_EQ(child.wait(), -DatabaseReadOnly);
-  }
+    return -child.wait();
+  };
+  const auto adds = [](Recordset& dives) { dives.AddNew(); };
+  const auto edits = [](Recordset& dives) { dives.Edit(); };
+  fs::permissions(path, perms::all);
+  fs::permissions(folder,
+                  perms::owner_read | perms::owner_exec | perms::others_read | perms::others_exec);
+  EXPECT_EQ(failureOfDiver(adds), CannotOpenFile);
+  EXPECT_EQ(files(), before);
+  fs::permissions(folder, perms::all);
+  fs::permissions(path, perms::owner_read | perms::others_read);
+  EXPECT_EQ(failureOfDiver(adds), DatabaseReadOnly);
+  EXPECT_EQ(failureOfDiver(edits), DatabaseReadOnly);
   EXPECT_EQ(files().at("Logbuch.mdb"), before.at("Logbuch.mdb"));
 }
 
