@@ -62,7 +62,7 @@ class Window : public Form {
   TextBox Behind{*this, "Behind"};
   TextBox Notes{*this, "Notes", {.multiLine = true}};
   ComboBox Term{*this, "Term", ComboBox::Style::FreeText};
-  TabStrip Pages{*this, "Pages", {"Front", "Back"}};
+  TabStrip Pages{*this, "Pages", {"Front", "Back", "Last"}};
   Button Stop{*this, "Stop", "Stop"};
   ListBox Lines{*this, "Lines"};
   ComboBox Choice{*this, "Choice", ComboBox::Style::ListOnly, {"a", "b"}};
@@ -272,8 +272,11 @@ TEST_F(FormTest, ChangingTheWindowRaisesNoFocusEventAndADisabledOneTakesNoInput)
   EXPECT_EQ(run.activeForm(), &one);
   EXPECT_EQ(two.taken(), Texts{});
   one.setEnabled(false);
+  one.taken();
   type(one.Second, "x");
   click(one.Check);
+  press(one, Key::Escape);
+  EXPECT_EQ(one.taken(), Texts{});
   EXPECT_EQ(one.Second.text(), "");
   EXPECT_FALSE(one.Check.on());
 }
@@ -339,7 +342,7 @@ TEST_F(FormTest, AnAccessKeyWithSeveralOwnersGoesOnFromTheFocus) {
                                    "-Red", "+Press", "press"}));
   EXPECT_FALSE(window.userAccessKey("x"));
   window.userTurnPage(-1);
-  EXPECT_EQ(window.Pages.Tab(), 1);
+  EXPECT_EQ(window.Pages.Tab(), 2);
   EXPECT_FALSE(window.userAccessKey("p")) << "a page behind answers nothing";
   window.userTurnPage(1);
   EXPECT_EQ(window.Pages.Tab(), 0);
