@@ -3,6 +3,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <utility>
 #include <vector>
 
 #include "platform/draft_file.h"
@@ -10,6 +11,7 @@
 #include "platform/files.h"
 #include "store/contract.h"
 #include "store/delivered.h"
+#include "store/program_files.h"
 
 namespace nautrel {
 namespace {
@@ -20,11 +22,14 @@ fs::path lastOf(const fs::path& folder) {
   return folder / ".delivered";
 }
 
+/// Named one by one: the library reads no folder whose path is longer than 260 characters.
 std::vector<fs::path> textsOf(const fs::path& folder) {
-  std::error_code none;
   std::vector<fs::path> texts;
-  for (const auto& entry : fs::directory_iterator(lastOf(folder) / "new", none))
-    if (entry.is_regular_file(none)) texts.push_back(entry.path());
+  for (const auto name : kTexts) {
+    auto text = lastOf(folder) / "new" / name;
+    std::error_code none;
+    if (fs::is_regular_file(text, none)) texts.push_back(std::move(text));
+  }
   return texts;
 }
 

@@ -14,7 +14,7 @@ std::vector<std::string> programFiles(const std::string& logbook) {
   for (const char* program : {"nautrel", "nautrel.exe", "nautrel-exchange", "nautrel-exchange.exe",
                               "nautrel-exchange-window.exe", "Logbuch.lock"})
     files.push_back(utf8(folder / program));
-  for (const char* text : {"Liste.rpt", "Statistik.rpt", "Benutzer.rpt", "nautrel.rtf"})
+  for (const auto text : kTexts)
     for (const auto& where : {folder, folder / ".delivered", folder / ".delivered/new"})
       files.push_back(utf8(where / text));
   if (auto lock = LogbookLock::fileFor(logbook); !lock.empty()) files.push_back(std::move(lock));

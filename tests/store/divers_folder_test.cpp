@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "store/divers_folder.h"
 
+#include <fstream>
+
 #include "store/store_test.h"
 
 namespace nautrel {
@@ -59,6 +61,20 @@ TEST_F(DiversFolder, KeepsEditedTextsAndRenewsTheOthers) {
   EXPECT_EQ(content("Benutzer.rpt"), "two");
   EXPECT_EQ(content("nautrel.rtf"), "two");
   EXPECT_EQ(std::distance(fs::directory_iterator(home.path()), {}), 5);
+}
+
+TEST_F(DiversFolder, MayHaveALongNameInAnyScript) {
+  auto folder = fs::path(home.path());
+  for (int depth = 0; depth < 6; ++depth)
+    folder /= u8"Zoës Tauchgänge 潜水, " + std::u8string(40, 'x');
+  fs::create_directories(folder / ".delivered/new");
+  std::ofstream(folder / ".delivered/new/Liste.rpt") << "one";
+  const auto name = folder.u8string();
+  const std::string path(name.begin(), name.end());
+  EXPECT_EQ(makeMissingLogbook(path), "");
+  renewTexts(path);
+  EXPECT_TRUE(fs::is_regular_file(folder / "Logbuch.mdb"));
+  EXPECT_TRUE(fs::is_regular_file(folder / "Liste.rpt"));
 }
 
 }  // namespace
