@@ -138,6 +138,8 @@ Answers TakeOverPage::answers() const {
 }
 
 void TakeOverPage::makePlan() {
+  // The screen goes on while it is made, and must find no row of the one before.
+  Dives.setRows(0, {});
   file_->plan.reset();
   if (isAnswered()) {
     const ImportOptions options{.card = file_->noCard.empty(), .equipment = true};

@@ -110,6 +110,15 @@ TEST_F(TakeOver, AsksWhatTheFileLeavesOpenWithAnExampleFromIt) {
   }
 }
 
+TEST_F(TakeOver, HasNoRowOfThePlanBeforeWhileItMakesAnother) {
+  choose("open.csv", "Date,Duration (min),Max Depth (ft)\n03/04/2020,30,50\n");
+  click(page.DayFirst);
+  // The screen goes on painting what the table holds.
+  desktop.whileBoxIsOpen = [this] { EXPECT_EQ(fates(), Texts{}); };
+  click(page.MonthFirst);
+  EXPECT_EQ(page.Dives.rowCount(), 1);
+}
+
 TEST_F(TakeOver, IsRefusedWhileAnotherHasTheLogbookAndStoresNothingWhenCancelled) {
   choose("log.csv", kForeign);
   {

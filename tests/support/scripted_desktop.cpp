@@ -118,6 +118,7 @@ std::optional<std::string> ScriptedDesktop::askFolder(const DialogRequest& reque
 
 void ScriptedDesktop::runApart(const std::string& what, const LongWork& work) {
   works.push_back(what);
+  boxIsOpen();
   work(working ? working : [](std::size_t, std::size_t) { return true; });
 }
 

@@ -63,7 +63,7 @@ class ScriptedDesktop : public Desktop {
   /// What the long work to come is told; without it, to go on.
   Progress working;
   int beeps = 0;
-  /// Called while a box is open.
+  /// Called while a box is open, that of long work included.
   std::function<void()> whileBoxIsOpen;
   /// A number below the given one. With it, whatever no answer is laid out for is answered by
   /// chance.
