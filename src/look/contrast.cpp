@@ -23,4 +23,18 @@ double contrast(const QColor& one, const QColor& other) {
   return (light + 0.05) / (dark + 0.05);
 }
 
+QColor readable(const QColor& color, const QColor& against, double least) {
+  const QColor black(Qt::black);
+  const QColor white(Qt::white);
+  const QColor end = contrast(black, against) > contrast(white, against) ? black : white;
+  constexpr int kSteps = 32;
+  for (int step = 0; step < kSteps; ++step) {
+    const auto mixed = [&](int from, int to) { return from + (to - from) * step / kSteps; };
+    const QColor nearer(mixed(color.red(), end.red()), mixed(color.green(), end.green()),
+                        mixed(color.blue(), end.blue()));
+    if (contrast(nearer, against) >= least) return nearer;
+  }
+  return end;
+}
+
 }  // namespace nautrel

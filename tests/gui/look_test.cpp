@@ -11,6 +11,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyleOptionButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -218,6 +219,23 @@ TEST_F(Look, NoBreakComesIntoOneLineAndTheCaretStaysBehindWhatCame) {
   keys("b");
   EXPECT_EQ(fromQt(typed.text()), "breef");
   EXPECT_EQ(typed.cursorPosition(), 1) << "also after a line was chosen";
+}
+
+TEST_F(Look, TheOptionsOfTheViewStandInLineWithTheirPictures) {
+  auto& form = insert();
+  choose(form.SSTab1, 2);
+  settle();
+  for (const int number : {1, 2, 3}) {
+    const auto& picture = *window(form)->findChild<QWidget*>(QString("Image%1").arg(number));
+    const auto& option =
+        *window(form)->findChild<QRadioButton*>(QString("Option%1").arg(number + 6));
+    QStyleOptionButton look;
+    look.initFrom(&option);
+    const auto mark =
+        option.style()->subElementRect(QStyle::SE_RadioButtonIndicator, &look, &option);
+    EXPECT_NEAR(option.mapTo(window(form), mark.center()).x(),
+                picture.mapTo(window(form), picture.rect().center()).x(), 1);
+  }
 }
 
 TEST_F(Look, AnEditedCommentKeepsEveryOtherCharacter) {

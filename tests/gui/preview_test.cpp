@@ -27,13 +27,14 @@ class CountedPages : public ReportPages {
  public:
   CountedPages()
       : ReportPages({QPageSize(QPageSize::A4), QPageLayout::Portrait, {15, 15, 15, 15}}) {}
-  int count() const override { return 300; }
+  int count() const override { return all; }
   void paint(QPainter&, int page) const override {
     painted.insert(page);
     if (fails) throw std::bad_alloc();
   }
   mutable std::set<int> painted;
   bool fails = false;
+  int all = 300;
 };
 
 class Preview : public GuiTest {
@@ -71,6 +72,19 @@ TEST_F(Preview, LeafsThroughThePagesAndPaintsWhatComesIntoViewAlone) {
   page().setValue(150);
   settle();
   EXPECT_TRUE(pages.painted.contains(149));
+}
+
+TEST_F(Preview, HasNoBarBesideAPageThatIsWholeAndAlone) {
+  EXPECT_TRUE(preview.findChild<QScrollArea*>()->verticalScrollBar()->isVisible());
+  pages.all = 1;
+  ReportPreview single(pages, "Preview", nullptr);
+  single.show();
+  settle();
+  const auto* bar = single.findChild<QScrollArea*>()->verticalScrollBar();
+  EXPECT_FALSE(bar->isVisible());
+  single.findChild<QComboBox*>()->setCurrentText("200 %");
+  settle();
+  EXPECT_TRUE(bar->isVisible());
 }
 
 TEST_F(Preview, IsReadByTheKeyboardAndTheWheel) {

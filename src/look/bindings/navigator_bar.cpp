@@ -34,7 +34,7 @@ void NavigatorBar::setItem(const QString& item) {
 
 void NavigatorBar::add(Navigator::Arrow arrow, const char* icon) {
   auto* button = new QToolButton(this);
-  button->setIcon(namedIcon(icon));
+  button->setIcon(namedSign(icon));
   button->setIconSize({16, 16});
   button->setMinimumWidth(36);
   button->setFocusPolicy(Qt::NoFocus);

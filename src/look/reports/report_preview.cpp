@@ -48,7 +48,6 @@ ReportPreview::ReportPreview(const ReportPages& pages, const QString& title, QWi
   area_->setAccessibleName(QStringLiteral("Pages"));
   area_->setFrameShape(QFrame::NoFrame);
   area_->setBackgroundRole(QPalette::Dark);
-  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   area_->viewport()->installEventFilter(this);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -103,7 +102,8 @@ QToolBar* ReportPreview::makeToolBar() {
 
 void ReportPreview::addLeafing(QToolBar& bar) {
   const auto arrow = [&](const char* icon, const QString& text, const std::function<void()>& run) {
-    auto* action = add(bar, icon, text, {}, run);
+    auto* action = add(bar, nullptr, text, {}, run);
+    action->setIcon(namedSign(icon));
     action->setPriority(QAction::LowPriority);
   };
   arrow("nav_first", QStringLiteral("First page"), [this] { showPage(1); });
@@ -141,9 +141,17 @@ void ReportPreview::addZoom(QToolBar& bar) {
   })->setToolTip(QStringLiteral("Larger"));
 }
 
+// A bar that comes and goes with a page that is fitted beside it would never come to rest.
+Qt::ScrollBarPolicy ReportPreview::scrollBarFor(int choice) const {
+  if (choice > 0) return Qt::ScrollBarAsNeeded;
+  const bool idle = choice == kWholePage && pages_.count() == 1;
+  return idle ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn;
+}
+
 // What stands at the top of the view stays there; a page that fits begins there.
 void ReportPreview::applyZoom() {
   const int choice = zoom_->currentData().toInt();
+  area_->setVerticalScrollBarPolicy(scrollBarFor(choice));
   const QSize room = area_->viewport()->size();
   auto& bar = *area_->verticalScrollBar();
   const int page = choice == kWholePage ? page_->value() - 1 : view_->pageAt(bar.value());

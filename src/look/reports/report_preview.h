@@ -39,6 +39,7 @@ class ReportPreview : public QDialog {
   void addZoom(QToolBar& bar);
   void addKeys();
   void fitScreen();
+  Qt::ScrollBarPolicy scrollBarFor(int choice) const;
   void applyZoom();
   void stepZoom(int direction);
   void turnWheel(int angle);

@@ -5,13 +5,12 @@
 
 namespace nautrel {
 
-/// What the program asks of the desktop's own style: the focus is always to be seen, and no icons
-/// on the buttons of dialogs.
+/// What the program asks of the desktop's own style: text that can be read whatever the desktop's
+/// colours, a focus that is always seen, and no icons on the buttons of dialogs.
 class LookStyle : public QProxyStyle {
-  Q_OBJECT
-
  public:
   using QProxyStyle::polish;
+  void polish(QPalette& palette) override;
   void polish(QWidget* widget) override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* returned) const override;
