@@ -102,6 +102,14 @@ void TakeOverPage::open(const std::string& path) {
   FileName.setText(path);
   ask();
   makePlan();
+  focusNext();
+}
+
+// Where the diver goes on: what is asked, or the dives.
+void TakeOverPage::focusNext() {
+  for (const auto& asked : questions())
+    if (!asked.isAnswered()) return asked.first.SetFocus();
+  if (isUnderWay()) Dives.SetFocus();
 }
 
 void TakeOverPage::ask() {

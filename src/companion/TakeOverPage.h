@@ -82,6 +82,7 @@ class TakeOverPage {
   ImportPlan* plan() const { return file_ && file_->plan ? &*file_->plan : nullptr; }
   std::vector<Asked> questions();
   void ask();
+  void focusNext();
   bool isAnswered();
   Answers answers() const;
   void makePlan();

@@ -52,6 +52,7 @@ TEST_F(CompanionLook, DivesOfAFileAreTakenOverByKeysAlone) {
   choose(kForeign);
   EXPECT_TRUE(widget(form.In.AskDates).isVisible());
   EXPECT_FALSE(widget(form.In.Dives).isVisible());
+  expectFocus(form.In.DayFirst);
   key(Qt::Key_D, Qt::AltModifier);
   for (int tabs = 0; tabs < 9 && form.activeControl() != &form.In.Dives; ++tabs) key(Qt::Key_Tab);
   expectFocus(form.In.Dives);
