@@ -33,6 +33,7 @@ DiveEntryForm::DiveEntryForm(Shell& app, std::string name, Design design,
   Text11.GotFocus = [this] { Command1.setDefault(false); };
   Text11.LostFocus = [this] { Command1.setDefault(true); };
   Command5.Click = [this] { browse(); };
+  Image4.Drop = [this](const std::string& path) { link(path); };
 }
 
 void DiveEntryForm::placeOnPages() {
@@ -145,7 +146,14 @@ void DiveEntryForm::browse() {
   try {
     CommonDialog1.setFlags(4);
     CommonDialog1.ShowOpen();
-    Text21.setText(CommonDialog1.FileName());
+    link(CommonDialog1.FileName());
+  } catch (const RunTimeError&) {
+  }
+}
+
+void DiveEntryForm::link(const std::string& path) {
+  try {
+    Text21.setText(path);
     Image4.setPicture(desktop().LoadPicture(Text21.text()));
   } catch (const RunTimeError&) {
   }

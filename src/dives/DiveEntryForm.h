@@ -91,6 +91,7 @@ class DiveEntryForm : public Form {
   void leaveDiveTime();
   void leaveDepth();
   void browse();
+  void link(const std::string& path);
 };
 
 }  // namespace nautrel

@@ -170,6 +170,12 @@ Image::Image(Form& form, std::string name, bool visible) : Control(form, std::mo
   setVisible(visible);
 }
 
+void Image::userDrop(const std::string& path) {
+  form().program().handle([&] {
+    if (Drop && enabled() && shows() && form().enabled()) Drop(path);
+  });
+}
+
 void Image::setPicture(Picture picture) {
   if (picture_ == picture) return;
   picture_ = std::move(picture);

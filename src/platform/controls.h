@@ -260,10 +260,12 @@ class TabStrip : public Control {
   int tab_ = 0;
 };
 
-/// Shows a picture.
+/// Shows a picture. Where there is a `Drop`, the user may bring a file of one from elsewhere.
 class Image : public Control {
  public:
   Image(Form& form, std::string name, bool visible = true);
+  std::function<void(const std::string& path)> Drop;
+  void userDrop(const std::string& path);
   const Picture& picture() const { return picture_; }
   void setPicture(Picture picture);
 

@@ -15,6 +15,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
+#include <QUrl>
 #include <set>
 
 #include "calculators/Form21.h"
@@ -219,6 +220,29 @@ TEST_F(Look, NoBreakComesIntoOneLineAndTheCaretStaysBehindWhatCame) {
   keys("b");
   EXPECT_EQ(fromQt(typed.text()), "breef");
   EXPECT_EQ(typed.cursorPosition(), 1) << "also after a line was chosen";
+}
+
+TEST_F(Look, APhotoDroppedOnItsPageIsTakenAsIfItHadBeenBrowsedFor) {
+  const TemporaryFolder photos;
+  photos.write("reef.jpg", "picture");
+  auto& form = insert();
+  choose(form.SSTab1, 3);
+  settle();
+  QMimeData mime;
+  mime.setUrls({QUrl::fromLocalFile(toQt(photos.file("reef.jpg")))});
+  auto& picture = widget(form.Image4);
+  for (auto* target : {&picture, picture.parentWidget(), &widget(form.Text21)}) {
+    clear(form.Text21);
+    settle();
+    QDragEnterEvent enter({2, 2}, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop({2, 2}, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+    settle();
+    EXPECT_EQ(form.Text21.text(), photos.file("reef.jpg"));
+    EXPECT_EQ(pathOf(form.Image4.picture()), photos.file("reef.jpg"));
+  }
 }
 
 TEST_F(Look, TheOptionsOfTheViewStandInLineWithTheirPictures) {

@@ -23,6 +23,7 @@
 #include "look/bindings/tick_table_binding.h"
 #include "look/charts/chart_binding.h"
 #include "look/convert.h"
+#include "look/pictures/file_drop.h"
 #include "look/pictures/picture_view.h"
 #include "look/pictures/scene_view.h"
 #include "platform/controls.h"
@@ -260,13 +261,21 @@ class TabBinding : public Binding {
 
 class ImageBinding : public Binding {
  public:
-  ImageBinding(Image& image, PictureView& view)
-      : Binding(image, view), image_(image), view_(view) {}
+  ImageBinding(Image& image, PictureView& view) : Binding(image, view), image_(image), view_(view) {
+    if (image.Drop)
+      drop_ = std::make_unique<FileDrop>(
+          *view.parentWidget(), [this](const QString& path) { image_.userDrop(fromQt(path)); });
+  }
+  void release() override {
+    drop_.reset();
+    Binding::release();
+  }
 
  protected:
   void pushContent() override { view_.setPicture(image_.picture()); }
 
  private:
+  std::unique_ptr<FileDrop> drop_;
   Image& image_;
   PictureView& view_;
 };
