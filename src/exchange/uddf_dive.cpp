@@ -61,12 +61,15 @@ Locale localeOf(std::string_view sign) {
 
 }  // namespace
 
-UddfDive::UddfDive(const XmlElement& dive, const SampleSummary& samples)
+UddfDive::UddfDive(XmlElement& dive, const SampleSummary& samples)
     : line_(dive.line), id_(dive.attribute("id")), samples_(samples) {
+  readPrivateBlock(dive);
+  // Else every look for an element would go through it.
+  std::erase_if(dive.children,
+                [](const XmlElement& each) { return each.name == "applicationdata"; });
   readBefore(dive);
   readTanks(dive);
   readAfter(dive);
-  readPrivateBlock(dive);
 }
 
 void UddfDive::readBefore(const XmlElement& dive) {

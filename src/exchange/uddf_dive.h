@@ -46,8 +46,9 @@ struct UddfDefinitions {
 /// A dive as a UDDF file tells it; texts as they stand there.
 class UddfDive {
  public:
-  /// From the element of the dive and its samples. Raises Refused for a private block that is none.
-  UddfDive(const XmlElement& dive, const SampleSummary& samples);
+  /// From the element of the dive, of which the private block is taken out, and its samples. Raises
+  /// Refused for a private block that is none.
+  UddfDive(XmlElement& dive, const SampleSummary& samples);
 
   /// Whether our private block is in it.
   bool isOurs() const { return own_.has_value(); }

@@ -2,6 +2,7 @@
 #include "exchange/uddf_reader.h"
 
 #include <algorithm>
+#include <deque>
 #include <optional>
 
 #include "exchange/plain_text.h"
@@ -17,7 +18,7 @@ constexpr std::size_t kMostDefinitions = 100'000;
 constexpr std::size_t kLongestText = 1U << 20;
 
 struct Content {
-  std::vector<UddfDive> dives;
+  std::deque<UddfDive> dives;  // large ones, that would else move again and again
   UddfDefinitions known;
   std::optional<XmlElement> owner;
 };
@@ -133,7 +134,7 @@ class UddfReader final : public XmlHandler {
     define(std::move(record));
   }
 
-  void takeDive(const XmlElement& record) {
+  void takeDive(XmlElement& record) {
     UddfDive dive(record, samples_);
     refuseTooMuch(record, dive.isOurs());
     if (content_.dives.size() == kMostDives)

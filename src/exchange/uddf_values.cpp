@@ -2,6 +2,7 @@
 #include "exchange/uddf_values.h"
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
 
 #include "exchange/dive_lines.h"
@@ -48,6 +49,13 @@ void fillNumbers(DiveFiller& filler, const StandardDive& told) {
     });
 }
 
+/// Integers come with decimals, too.
+std::optional<int> wholeOf(std::optional<double> number) {
+  constexpr double kMost = 1e9;
+  if (!number || *number != std::floor(*number) || std::abs(*number) > kMost) return {};
+  return static_cast<int>(*number);
+}
+
 bool isOneOf(const Cell& text, std::initializer_list<std::string_view> words) {
   return text && std::find(words.begin(), words.end(), *text) != words.end();
 }
@@ -67,7 +75,7 @@ void fillFlags(DiveFiller& filler, const StandardDive& told) {
 
 void fillFromStandard(DiveFiller& filler, SourceDive& dive, const StandardDive& told) {
   using namespace Feld;
-  if (told[Nr]) dive.number = readWhole(*told[Nr]);
+  if (told[Nr]) dive.number = wholeOf(readFileNumber(*told[Nr]));
   if (told[Tag]) filler.date(*told[Tag], readMoment(*told[Tag]));
   filler.text(Lang, told[Lang].value_or(""));
   fillNumbers(filler, told);

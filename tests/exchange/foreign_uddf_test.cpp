@@ -142,7 +142,7 @@ TEST(ForeignUddf, FitsTheBoxesAndTellsWhatItChanged) {
       "a.uddf",
       uddf("<divesite><site id='s'><name>A name of more than twenty</name></site></divesite>"
            "<profiledata><dive id='d'>" +
-           before("<link ref='s'/><datetime>2001-03-05</datetime>"
+           before("<link ref='s'/><divenumber>12.0</divenumber><datetime>2001-03-05</datetime>"
                   "<equipmentused><leadquantity>99999</leadquantity></equipmentused>") +
            "<tankdata><tankvolume>-0.01</tankvolume><tankpressurebegin>-5</tankpressurebegin>"
            "</tankdata>" +
@@ -161,7 +161,8 @@ TEST(ForeignUddf, FitsTheBoxesAndTellsWhatItChanged) {
             "Duration: 2730 s -> 46; Max depth: 45.9 m -> 151; Weight: 99999 kg -> ; "
             "Tank size: -0.01 -> ; Start pressure: -5 -> ; "
             "Place: A name of more than twenty -> A name of more than ; ");
-  EXPECT_NE(reportText(plan).find("Line 1 (d): taken as dive 1\n    Duration: '2730 s' became"),
+  EXPECT_NE(reportText(plan).find(
+                "Line 1 (d), there dive 12: taken as dive 1\n    Duration: '2730 s' became"),
             std::string::npos);
 }
 
