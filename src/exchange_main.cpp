@@ -18,6 +18,15 @@ nautrel::exchange::LocalTime localTime() {
          hours(clock.tm_hour) + minutes(clock.tm_min) + seconds(clock.tm_sec);
 }
 
+/// Numbers are stored as the program itself writes them.
+nautrel::Locale locale() {
+#ifdef NAUTREL_WINDOW
+  return nautrel::localeOfPrograms();
+#else
+  return nautrel::exchange::systemLocale();
+#endif
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -27,5 +36,5 @@ int main(int count, char** arguments) {
   if (words.empty() && hasDisplay()) return nautrel::runCompanion(count, arguments);
 #endif
   if (words.empty() && startWindowProgram()) return kDone;
-  return runCommand(words, {programFolder(), systemLocale(), localTime()}, std::cout, std::cerr);
+  return runCommand(words, {programFolder(), locale(), localTime()}, std::cout, std::cerr);
 }

@@ -2,6 +2,7 @@
 #include "look/application.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <memory>
 
 #include "app/Nautrel.h"
@@ -13,6 +14,7 @@
 #include "look/system/look_style.h"
 #include "look/system/message_box.h"
 #include "look/system/qt_desktop.h"
+#include "look/system/system_locale.h"
 #include "store/divers_folder.h"
 #include "store/lock.h"
 
@@ -73,6 +75,10 @@ void prepareLook() {
   letWidgetsSpeak();
   QApplication::setStyle(new LookStyle);
   QApplication::setWindowIcon(namedIcon("nautrel"));
+}
+
+Locale localeOfPrograms() {
+  return localeOf(QLocale());
 }
 
 int runApplication(int argc, char** argv) {

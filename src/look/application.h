@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "platform/text.h"
+
 namespace nautrel {
+
+/// How numbers and dates are written, for every program of the folder alike; needs no display. The
+/// C library has another decimal sign for some countries, and none for those not set up.
+Locale localeOfPrograms();
 
 /// What every window of the look stands on, its dialogs included: pictures, icon, style. Once,
 /// before the first of them.

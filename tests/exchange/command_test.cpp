@@ -40,11 +40,11 @@ struct Shell : Book {
     fs::create_hard_link(NAUTREL_EXCHANGE, program, failed);
     if (failed) fs::copy_file(NAUTREL_EXCHANGE, program);
   }
-  Said run(const std::string& line) const {
+  Said run(const std::string& line, const std::string& locale = "C") const {
     const auto command =
         "cd " + folder.path() +
-        " && env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM LC_ALL=C ./nautrel-exchange " +
-        line + " >" + said.file("out") + " 2>" + said.file("err");
+        " && env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM LC_ALL=" + locale +
+        " ./nautrel-exchange " + line + " >" + said.file("out") + " 2>" + said.file("err");
     const int status = std::system(command.c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readFile(said.file("out")),
             readFile(said.file("err"))};
@@ -98,6 +98,16 @@ TEST(Command, TakesDivesOutAndInAgain) {
     EXPECT_EQ(other.dives(), shell.dives());
   }
 }
+
+#ifdef NAUTREL_WINDOW
+TEST(Command, TakesTheDecimalSignOfTheProgram) {
+  for (const auto& [locale, separator] : {std::pair{"en_ZA.UTF-8", ';'}, {"es_PE.UTF-8", ','}}) {
+    const Shell shell;
+    shell.run("export a.csv", locale);
+    EXPECT_EQ(readFile(shell.folder.file("a.csv")).substr(7, 1), std::string(1, separator));
+  }
+}
+#endif
 
 TEST(Command, InsistsOnADuplicateByItsLine) {
   Shell shell;
