@@ -19,10 +19,14 @@ class QuietDesktop : public Desktop {
   std::string askText(const std::string&, const std::string&) override { return {}; }
   std::optional<std::string> askFileToOpen(const DialogRequest&) override { return {}; }
   std::optional<std::string> askFileToSave(const DialogRequest&) override { return {}; }
+  std::optional<std::string> askFolder(const DialogRequest&) override { return {}; }
   std::optional<long> askColor(long) override { return {}; }
   bool askPrinter() override { return false; }
   std::string readSetting(const std::string&, const std::string&) override { return {}; }
   void writeSetting(const std::string&, const std::string&, const std::string&) override {}
+  void runApart(const std::string&, const LongWork& work) override {
+    work([](std::size_t, std::size_t) { return true; });
+  }
   DateTime currentTime() override { return {}; }
   const Locale& currentLocale() override { return locale_; }
   Picture readPicture(const std::string&) override { return {}; }
